@@ -1,0 +1,31 @@
+// Calls the entry points of all families, in order.
+#include "art/families.h"
+
+void AddEverything(Catalogue& catalogue)
+{
+	AddPanel(catalogue);
+	AddFonts(catalogue);
+	AddWidgets(catalogue);
+	AddSigns(catalogue);
+	AddOpening(catalogue);
+
+	AddMachine(catalogue);
+	AddProfessor(catalogue);
+	AddBall(catalogue);
+	AddCrates(catalogue);
+	AddFences(catalogue);
+	AddDrums(catalogue);
+	AddPrizes(catalogue);
+	AddShield(catalogue);
+	AddPoints(catalogue);
+
+	AddSkies(catalogue);
+	AddSea(catalogue);
+	AddGrounds(catalogue);
+	AddTrees(catalogue);
+	AddPalms(catalogue);
+	AddRocks(catalogue);
+	AddCacti(catalogue);
+	AddWeather(catalogue);
+	AddDecor(catalogue);
+}

@@ -1,0 +1,36 @@
+// One entry point for each family of pictures; every call adds its groups to the catalogue.
+#pragma once
+
+#include "art/core/catalogue.h"
+
+// the interface
+void AddPanel(Catalogue& catalogue);   // side panel, its strips, doors, discs and names
+void AddFonts(Catalogue& catalogue);   // glyphs, letters of greetings and timer, flyaway digits
+void AddWidgets(Catalogue& catalogue); // check box, slider, field, cursors, fader, markers
+void AddSigns(Catalogue& catalogue);   // signs and banners over the field
+void AddOpening(Catalogue& catalogue); // loading picture, splash, icon, front door
+
+// what stands behind and around the play
+void AddSkies(Catalogue& catalogue);   // skies, suns, clouds, rainbow, overlays
+void AddSea(Catalogue& catalogue);     // three bands of water and their moving crests
+void AddGrounds(Catalogue& catalogue); // four grounds, hills, boundary walls, railroad
+void AddTrees(Catalogue& catalogue);   // trunks, leaves, tiers of pines
+void AddPalms(Catalogue& catalogue);   // trunks and fronds
+void AddRocks(Catalogue& catalogue);
+void AddCacti(Catalogue& catalogue);
+void AddWeather(Catalogue& catalogue); // rain, snow, fireflies
+void AddDecor(Catalogue& catalogue);   // flowers and tufts of grass
+
+// what moves and breaks on the field
+void AddMachine(Catalogue& catalogue);   // body, wheels, bumpers, flames, stun, ray
+void AddProfessor(Catalogue& catalogue); // at rest and his nine moves
+void AddBall(Catalogue& catalogue);      // 19 stages in three skins, shadows, trail
+void AddCrates(Catalogue& catalogue);    // crates, barrels, explosions, order numbers
+void AddFences(Catalogue& catalogue);    // posts and rails
+void AddDrums(Catalogue& catalogue);     // drums and the cloud
+void AddPrizes(Catalogue& catalogue);    // balloons, disc, its marks, money bag, sparkles
+void AddShield(Catalogue& catalogue);    // the energy floor
+void AddPoints(Catalogue& catalogue);    // fruit, coins, eggs
+
+// Calls every entry point above, in order.
+void AddEverything(Catalogue& catalogue);

@@ -1,0 +1,145 @@
+// How every species is written: actions, body outline and picture places as tables.
+#pragma once
+
+#include "animals/animal.h"
+
+#include <span>
+#include <string>
+#include <vector>
+
+// A page of species data. A plain species is a file of one screen: a table of actions, a body
+// outline, sometimes a table of picture places, the SpeciesTable that ties them together, and a
+// constructor with the numbers. Everything that is not said takes its usual value.
+
+enum ActionRole { ROLE_NONE, ROLE_BUMP, ROLE_FLIGHT };
+
+// The duration that an action's kind usually has:
+//   idle            15 to 120 frames
+//   blink           2 frames
+//   look            pictures to their end, 15 to 120 frames of holding, pictures backward
+//   walk, walk both 30 to 90 frames
+//   chew            60 to 120 frames
+//   flight          30 to 90 frames
+//   fall, climb     1 frame, held up until the ground or the crown is reached
+//   all others      pictures to their end
+constexpr FrameSpan BY_KIND     = {-2, false, 0, 0};
+constexpr FrameSpan NO_HOLD     = {-1, false, 0, 0};
+constexpr FrameSpan UNTIL_END   = FrameSpan::UntilEnd();
+constexpr const char* EXIT_BACK = "back"; // the entry's pictures, backward
+constexpr const char* NO_EXIT   = "none";
+constexpr const char* ANY       = "any"; // no follow-up: the weighted choice
+
+constexpr FrameSpan Frames(int count)
+{
+	return FrameSpan::Exactly(count);
+}
+constexpr FrameSpan Between(int min, int max)
+{
+	return FrameSpan::Between(min, max);
+}
+
+// What only some actions need, named in the last column of a row: { .perched = true }.
+struct ActionOptions {
+	FrameSpan time         = BY_KIND; // entry phase
+	FrameSpan hold         = BY_KIND; // middle phase
+	const char* holdFrames = nullptr; // pictures of the middle phase; null keeps the entry's
+	const char* exitFrames = nullptr; // null: EXIT_BACK for a look, NO_EXIT for all others
+	FrameSpan exitTime     = UNTIL_END;
+	FrameSpan repeats      = Frames(1);
+
+	int ticks    = 2;     // frames that a picture stays
+	bool once    = false; // stops on its last picture though its time is longer
+	int loopFrom = 0;     // the picture that a loop goes back to
+
+	bool inTree  = false; // may be chosen up in a tree
+	bool perched = false; // may be chosen on a perch
+
+	const char* sounds[4]  = {nullptr, nullptr, nullptr, nullptr}; // one of them, by chance
+	int soundDelay         = 0;                                    // frames from the start
+	const char* extraSound = nullptr;                              // a second one, by itself
+	int extraDelay         = 0;
+};
+
+// A row of a species' action table. The first row is the idle action.
+//
+// name    The word of the picture files: prefix + word + side + number + ".png". A word that ends
+//         in "blink", "eyeswide" or "smile" has that ending after the side. For the two-way kinds
+//         a word that ends in "up" names two pairs, its other one ending in "down". A word that
+//         stands in several rows is told apart by a tag before a colon, "raise:lowerhead", and
+//         follow-ups then name the tag.
+// frames  The pictures in order, as groups with a space between: "0-4", "4-0", "7", "." for the
+//         picture without a number, a word for prefix + word + side + that word ("blink"),
+//         "=climbcommon0-7" for prefix + that, the same on both sides, and "*12" after a single
+//         one to hold it that many times. Empty is ".".
+// then    Up to three names with "/" between, equal chances. Empty is the idle action; ANY makes
+//         the weighted choice, as the idle action itself always does.
+struct ActionRow {
+	const char* name;
+	int kind;
+	const char* frames;
+	int weight; // in the random choice; 0: only as a follow-up
+	ActionRole role;
+	const char* then;
+	ActionOptions options = {};
+};
+
+// A picture pair of a species with a machine of its own; name and frames as above.
+struct PictureRow {
+	const char* name;
+	const char* frames;
+	int ticks               = 2;
+	bool loops              = false;
+	int loopFrom            = 0;
+	const char* rightFrames = nullptr; // where the right side differs
+};
+
+// A corner of the outline that the ball meets, in pixels from the upper left of the standing
+// picture. Neighbours lie at most CElement::JOIN_DISTANCE apart, the last and the first too.
+struct BodyPoint {
+	float x, y;
+};
+
+// Where a word's pictures stand against the upper left of the standing picture, in pixels. A word
+// without a row stands with the middle of its lower edge on that of the standing picture.
+struct PicturePlace {
+	const char* word;
+	int leftX, leftY, rightX, rightY;
+};
+
+struct SpeciesTable {
+	const char* prefix;                   // of all picture files
+	std::span<const ActionRow> actions;   // empty for a species with a machine of its own
+	std::span<const PictureRow> pictures; // those that no action names
+	std::span<const BodyPoint> body;      // facing left
+	std::span<const BodyPoint> bodyRight; // empty: the left one, mirrored
+	std::span<const PicturePlace> places;
+};
+
+// File names of a word's pictures on one side, in the order of frames.
+std::vector<std::string> PictureFiles(const char* prefix, const char* word, bool left,
+                                      const char* frames);
+// Every picture file that a table asks for, each once.
+std::vector<std::string> AllPictureFiles(const SpeciesTable& table);
+
+std::string WordOf(const ActionRow& row);        // the name without its tag
+std::string KeyOf(const ActionRow& row);         // the tag, or the word when there is none
+std::string DownWord(const std::string& upWord); // empty when the word has no other pair
+const ActionRow* FindRow(const SpeciesTable& table, const std::string& key); // null without one
+std::vector<std::string> FollowUps(const ActionRow& row);
+
+// The species that stand for themselves, one row each, in order of their numbers: by number for
+// the sanctuary, by table for tests and tools.
+struct SpeciesEntry {
+	int species;
+	CElementAnimal* (*make)(int centreX, int centreY, bool left); // the caller's field owns it
+	const SpeciesTable* table;
+};
+std::span<const SpeciesEntry> AllSpecies();
+// Null for a number without a row.
+CElementAnimal* NewAnimal(int species, int centreX, int centreY, bool left);
+
+extern const SpeciesTable SHEEP_TABLE;
+extern const SpeciesTable MONKEY_TABLE;
+extern const SpeciesTable DUCK_TABLE;
+extern const SpeciesTable DUCKLING_TABLE;
+extern const SpeciesTable BUTTERFLY_TABLES[3]; // colours A, B, C

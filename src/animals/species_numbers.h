@@ -1,0 +1,86 @@
+// Numbers of species, and the dense index under which the profile keeps them.
+#pragma once
+
+enum SpeciesNumber {
+	SPECIES_SHEEP  = 5,
+	SPECIES_TURTLE = 7,
+	SPECIES_MONKEY,
+	SPECIES_EAGLE,
+	SPECIES_CHIPMUNK,
+	SPECIES_PIG,
+	SPECIES_FROG,
+	SPECIES_COW,
+	SPECIES_HORSE,
+	SPECIES_DOG,
+	SPECIES_SQUIRREL,
+	SPECIES_CHICKEN,
+	SPECIES_COYOTE = 20,
+	SPECIES_MOOSE,
+	SPECIES_BEAR,
+	SPECIES_WOLF,
+	SPECIES_POLAR_BEAR,
+	SPECIES_HIPPO,
+	SPECIES_RHINO,
+	SPECIES_DEER,
+	SPECIES_OSTRICH,
+	SPECIES_CAT,
+	SPECIES_SNAKE,
+	SPECIES_DONKEY,
+	SPECIES_PENGUIN,
+	SPECIES_TORTOISE,
+	SPECIES_CAMEL,
+	SPECIES_DUCK,
+	SPECIES_DUCKLING,
+	SPECIES_GOAT,
+	SPECIES_FLAMINGO,
+	SPECIES_SKUNK,
+	SPECIES_RABBIT,
+	SPECIES_SEAL,
+	SPECIES_FOX,
+	SPECIES_WARTHOG,
+	SPECIES_KANGAROO,
+	SPECIES_KANGAROO_JOEY,
+	SPECIES_MOUSE,
+	SPECIES_RACCOON,
+	SPECIES_PIGEON,
+	SPECIES_OWL = 50,
+	SPECIES_SNOWY_OWL,
+	SPECIES_CROW,
+	SPECIES_VULTURE,
+	SPECIES_BLUEBIRD,
+	SPECIES_HARE,
+	SPECIES_JACKRABBIT,
+	SPECIES_ROADRUNNER,
+	SPECIES_ZEBRA,
+	SPECIES_WALRUS,
+	SPECIES_BIGHORN,
+	SPECIES_HYENA,
+	SPECIES_TIGER,
+	SPECIES_SNOW_TIGER,
+	SPECIES_LION,
+	SPECIES_BOT,
+	SPECIES_LIZARD,
+	SPECIES_PANDA,
+	SPECIES_KOALA,
+	SPECIES_SWAN,
+	SPECIES_GOOSE,
+	SPECIES_ELEPHANT,
+	SPECIES_ALIEN,
+	SPECIES_UNICORN,
+	SPECIES_BUTTERFLY_A,
+	SPECIES_BUTTERFLY_B,
+	SPECIES_BUTTERFLY_C,
+};
+
+const int DENSE_SPECIES = 64;
+const int RARE_SPECIES  = 16;
+
+int SpeciesIndex(int species); // 0 to 63, -1 for what has none
+int SpeciesOfIndex(int index); // 0 for an index out of range
+int RareBitOf(int species);    // 0 to 15, -1 for a species that is not rare
+int SpeciesOfRareBit(int bit); // 0 out of range
+
+// The word under which a species' files are named ("sheep"); empty for what is no animal.
+const char* SpeciesPrefix(int species);
+// The word of its two pictures inside the bubble ("roadrunner").
+const char* SpeciesBubbleWord(int species);

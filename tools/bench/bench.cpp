@@ -1,0 +1,243 @@
+// Benchmarks that hold the speed goals; each figure is also told as a share of a 33 ms frame.
+#include "animals/animal.h"
+#include "animals/butterfly.h"
+#include "animals/duck.h"
+#include "animals/monkey.h"
+#include "animals/sheep.h"
+#include "drive/bot.h"
+#include "field/background.h"
+#include "field/ball.h"
+#include "field/ball_physics.h"
+#include "field/sidebar.h"
+#include "frame/random.h"
+#include "level/parts.h"
+#include "media/cursor.h"
+#include "media/display.h"
+#include "media/render_manager.h"
+#include "screens/game.h"
+#include "state/game_data.h"
+#include "support/world.h"
+
+#include <algorithm>
+#include <benchmark/benchmark.h>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <vector>
+
+static const double FRAME_MS = 33;
+static std::string s_toolFolder; // where drive lies
+
+// Times of single rounds, for their median and 99th percentile.
+class CRounds
+{
+public:
+	void Begin() { start = std::chrono::steady_clock::now(); }
+	void End(benchmark::State& state)
+	{
+		std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;
+		state.SetIterationTime(time.count());
+		milliseconds.push_back(time.count() * 1000);
+	}
+	void Report(benchmark::State& state)
+	{
+		std::sort(milliseconds.begin(), milliseconds.end());
+		double median                  = milliseconds[milliseconds.size() / 2];
+		state.counters["median_ms"]    = median;
+		state.counters["p99_ms"]       = milliseconds[milliseconds.size() * 99 / 100];
+		state.counters["frame_share%"] = median / FRAME_MS * 100;
+	}
+
+private:
+	std::chrono::steady_clock::time_point start;
+	std::vector<double> milliseconds;
+};
+
+// Megabytes that the process holds now.
+static double ResidentMegabytes()
+{
+	std::ifstream status("/proc/self/status");
+	for (std::string word; status >> word;) {
+		if (word != "VmRSS:")
+			continue;
+		double kilobytes = 0;
+		status >> kilobytes;
+		return kilobytes / 1024;
+	}
+	return 0;
+}
+
+static void PresentFrame()
+{
+	PlaceCursor();
+	g_render->Update(true);
+	g_display->Present(true);
+}
+
+// A running level behind a root that never does anything.
+class CRunningLevel
+{
+public:
+	CRunningLevel()
+	{
+		SeedRandom(5);
+		game = new CControllerGame(1);
+		game->Activate(nullptr, true);
+	}
+	~CRunningLevel()
+	{
+		delete game;
+		g_currentController = nullptr;
+	}
+	void Frame()
+	{
+		bool playing = bot.Think();
+		if (playing)
+			game->OnMouseMove(bot.mouseX, 500);
+		if (playing && bot.buttonDown != pressed) {
+			pressed = bot.buttonDown;
+			game->OnMouseButton(true, false, !pressed);
+		}
+		game->Update();
+		PresentFrame();
+	}
+
+	CControllerGame* game;
+
+private:
+	CBot bot;
+	bool pressed = false;
+};
+
+static void FrameOfLevel1(benchmark::State& state)
+{
+	CWorld world;
+	CRunningLevel level;
+	for (int i = 0; i < 200; i++) // greeting and launch
+		level.Frame();
+	CRounds rounds;
+	for (auto _ : state) {
+		rounds.Begin();
+		level.Frame();
+		rounds.End(state);
+	}
+	rounds.Report(state);
+	state.counters["resident_MiB"] = ResidentMegabytes();
+}
+BENCHMARK(FrameOfLevel1)->UseManualTime()->Iterations(3000)->Unit(benchmark::kMillisecond);
+
+static void PhysicsAmong400Crates(benchmark::State& state)
+{
+	CWorld world;
+	SeedRandom(5);
+	g_gameData->OnLevelStart(1);
+	for (int i = 0; i < 400; i++)
+		Crate(20 + i % 25 * 27, 170 + i / 25 * 20);
+	g_ball = new CBall();
+	BallPhysics physics(g_ball, nullptr);
+	CRounds rounds;
+	int turn = 0;
+	for (auto _ : state) {
+		if (turn++ % 40 == 0) { // back into the thick of it
+			g_ball->held = false;
+			g_ball->x    = RandomRange(50, 640);
+			g_ball->y    = RandomRange(180, 460);
+			g_ball->vx   = RandomRange(-6, 6);
+			g_ball->vy   = -6;
+		}
+		rounds.Begin();
+		physics.Step();
+		rounds.End(state);
+	}
+	rounds.Report(state);
+	ClearField();
+	g_ball = nullptr;
+}
+BENCHMARK(PhysicsAmong400Crates)->UseManualTime()->Iterations(4000)->Unit(benchmark::kMillisecond);
+
+static void FieldTickOf60Animals(benchmark::State& state)
+{
+	CWorld world;
+	SeedRandom(5);
+	g_gameData->OnLevelStart(1);
+	for (int i = 0; i < 12; i++)
+		Crate(60 + i * 50, 160 + i % 3 * 20);
+	for (int i = 0; i < 15; i++) {
+		int x = 40 + i * 43;
+		new CSheep(x, 220, i & 1);
+		new CMonkey(x, 290, i & 1);
+		new CDuck(x, 350, i & 1);
+		new CButterfly(x, 420, i & 1);
+	}
+	CRounds rounds;
+	for (auto _ : state) {
+		rounds.Begin();
+		FieldTick();
+		rounds.End(state);
+	}
+	rounds.Report(state);
+	state.counters["obstacles"] = CElement::ObstaclePointList.size();
+	ClearField();
+}
+BENCHMARK(FieldTickOf60Animals)->UseManualTime()->Iterations(3000)->Unit(benchmark::kMillisecond);
+
+static void FullRepaint(benchmark::State& state)
+{
+	CWorld world;
+	CRunningLevel level;
+	for (int i = 0; i < 200; i++)
+		level.Frame();
+	CRounds rounds;
+	for (auto _ : state) {
+		g_render->AddExtraRect(0, 0, SCREEN_WIDTH, SCREEN_HEIGHT);
+		rounds.Begin();
+		g_render->Update(true);
+		rounds.End(state);
+	}
+	rounds.Report(state);
+}
+BENCHMARK(FullRepaint)->UseManualTime()->Iterations(200)->Unit(benchmark::kMillisecond);
+
+static void LoadLevel1(benchmark::State& state)
+{
+	CWorld world;
+	g_display->LoadPersistentImages();
+	CRounds rounds;
+	for (auto _ : state) {
+		rounds.Begin();
+		CRunningLevel level;
+		rounds.End(state);
+	}
+	rounds.Report(state);
+	g_display->ReleasePersistentImages();
+}
+BENCHMARK(LoadLevel1)->UseManualTime()->Iterations(20)->Unit(benchmark::kMillisecond);
+
+// From process start to the menu, the splash's waiting left out by the driver's clock.
+static void StartUp(benchmark::State& state)
+{
+	CTempFolder folder;
+	std::ofstream(folder.path + "script") << "until screen = CControllerMain within 900\n";
+	std::string command = s_toolFolder + "/drive --home " + folder.path + "home " + folder.path +
+	                      "script > /dev/null";
+	CRounds rounds;
+	for (auto _ : state) {
+		rounds.Begin();
+		if (std::system(command.c_str()) != 0)
+			state.SkipWithError("the driver has failed");
+		rounds.End(state);
+	}
+	rounds.Report(state);
+}
+BENCHMARK(StartUp)->UseManualTime()->Iterations(5)->Unit(benchmark::kMillisecond);
+
+int main(int argc, char** argv)
+{
+	setenv("SDL_VIDEODRIVER", "dummy", 1);
+	s_toolFolder = std::filesystem::canonical("/proc/self/exe").parent_path();
+	benchmark::Initialize(&argc, argv);
+	benchmark::RunSpecifiedBenchmarks();
+	return 0;
+}

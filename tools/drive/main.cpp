@@ -1,0 +1,108 @@
+// drive: the real program, headless and on a clock of its own, played from a script.
+#include "drive/driver.h"
+
+#include "frame/clock.h"
+#include "frame/program.h"
+#include "state/save_folder.h"
+
+#include <SDL.h>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+
+static const char* s_usage =
+    "usage: drive [--mode N] [--seed S] [--home DIR] [--data DIR] [--realtime] SCRIPT\n"
+    "SCRIPT is a file, or - for standard input. --mode as the game's own argument; --home is the\n"
+    "per-user folder. Exit 0; 1 when an until or expect fails; 2 for an error in the script.\n";
+
+struct DriveOptions {
+	std::string mode, home, script;
+	std::string data   = QUORBLET_DATA;
+	unsigned int seed = 1;
+	bool realtime     = false;
+};
+
+static bool ParseOptions(int argc, char** argv, DriveOptions& options)
+{
+	for (int i = 1; i < argc; i++) {
+		std::string word = argv[i];
+		bool more        = i + 1 < argc;
+		if (word == "--mode" && more)
+			options.mode = argv[++i];
+		else if (word == "--seed" && more)
+			options.seed = static_cast<unsigned int>(std::strtoul(argv[++i], nullptr, 0));
+		else if (word == "--home" && more)
+			options.home = std::filesystem::absolute(argv[++i]);
+		else if (word == "--data" && more)
+			options.data = std::filesystem::absolute(argv[++i]);
+		else if (word == "--realtime")
+			options.realtime = true;
+		else if (options.script.empty() && (word == "-" || word[0] != '-'))
+			options.script = word;
+		else
+			return false;
+	}
+	return !options.script.empty();
+}
+
+static bool LoadScript(const std::string& name, std::vector<ScriptCommand>& script)
+{
+	std::string problem;
+	std::ifstream file;
+	if (name != "-") {
+		file.open(name);
+		if (!file) {
+			std::fprintf(stderr, "cannot read %s\n", name.c_str());
+			return false;
+		}
+	}
+	if (ReadScript(name == "-" ? std::cin : file, script, problem))
+		return true;
+	std::fprintf(stderr, "%s\n", problem.c_str());
+	return false;
+}
+
+static int Play(const DriveOptions& options, const std::vector<ScriptCommand>& script)
+{
+	std::string folder = std::filesystem::current_path();
+	std::error_code missing;
+	std::filesystem::current_path(options.data, missing);
+	if (missing) {
+		std::fprintf(stderr, "no data folder %s\n", options.data.c_str());
+		return EXIT_SCRIPT_ERROR;
+	}
+	if (!options.home.empty())
+		SetSaveFolderRoot(options.home);
+	setenv("SDL_VIDEODRIVER", "dummy", 0);
+
+	CVirtualClock clock;
+	if (!options.realtime)
+		g_clock = &clock;
+	CDriver driver(script, options.realtime ? nullptr : &clock, folder);
+	std::string modeText = options.mode;
+	char name[]          = "quorblet";
+	char* arguments[]    = {name, modeText.data(), nullptr};
+	RunProgram(ParseMode(options.mode.empty() ? 1 : 2, arguments), options.seed, &driver);
+
+	if (const ScriptCommand* pending = driver.Pending(); pending && !driver.exitCode) {
+		std::fprintf(stderr, "line %d: %s: the program ended before\n", pending->line,
+		             pending->text.c_str());
+		return EXIT_FAILED_EXPECTATION;
+	}
+	return driver.exitCode;
+}
+
+int main(int argc, char** argv)
+{
+	DriveOptions options;
+	std::vector<ScriptCommand> script;
+	if (!ParseOptions(argc, argv, options)) {
+		std::fputs(s_usage, stderr);
+		return EXIT_SCRIPT_ERROR;
+	}
+	if (!LoadScript(options.script, script))
+		return EXIT_SCRIPT_ERROR;
+	return Play(options, script);
+}
