@@ -28,4 +28,11 @@ void AddEverything(Catalogue& catalogue)
 	AddCacti(catalogue);
 	AddWeather(catalogue);
 	AddDecor(catalogue);
+
+	AddSheep(catalogue);
+	AddMonkey(catalogue);
+	AddDuck(catalogue);
+	AddDuckling(catalogue);
+	AddButterflies(catalogue);
+	AddPortraits(catalogue);
 }

@@ -32,5 +32,13 @@ void AddPrizes(Catalogue& catalogue);    // balloons, disc, its marks, money bag
 void AddShield(Catalogue& catalogue);    // the energy floor
 void AddPoints(Catalogue& catalogue);    // fruit, coins, eggs
 
+// animals
+void AddSheep(Catalogue& catalogue);
+void AddMonkey(Catalogue& catalogue);
+void AddDuck(Catalogue& catalogue);
+void AddDuckling(Catalogue& catalogue);
+void AddButterflies(Catalogue& catalogue);
+void AddPortraits(Catalogue& catalogue); // in the side panel: faces, closed lids, names
+
 // Calls every entry point above, in order.
 void AddEverything(Catalogue& catalogue);

@@ -89,8 +89,17 @@ static std::vector<std::string> Undrawn(const WantedNames& wanted,
 	return missing;
 }
 
+static bool EndsWith(const std::string& text, const std::string& end)
+{
+	return text.size() >= end.size() &&
+	       text.compare(text.size() - end.size(), end.size(), end) == 0;
+}
+
+// A file of its own: the few by name, and music.
 static bool LiesBeside(const std::string& name)
 {
+	if (EndsWith(name, ".mdt"))
+		return true;
 	for (const char* beside : BESIDE_FILES)
 		if (name == beside)
 			return true;
@@ -109,15 +118,17 @@ static bool WriteAll(const std::string& folder, std::vector<Picture> pictures)
 {
 	std::error_code failed;
 	std::filesystem::create_directories(folder, failed);
-	std::vector<Picture> inside;
+	std::vector<Picture> inside, sounds;
 	for (Picture& p : pictures) {
-		if (!LiesBeside(p.name))
+		if (EndsWith(p.name, ".ogg"))
+			sounds.push_back(std::move(p));
+		else if (!LiesBeside(p.name))
 			inside.push_back(std::move(p));
 		else if (!Write(folder, p.name, p.bytes))
 			return false;
 	}
 	return Write(folder, "resource.dat", PackContainer(inside)) &&
-	       Write(folder, "resource2.dat", PackContainer({}));
+	       Write(folder, "resource2.dat", PackContainer(sounds));
 }
 
 // False when a name was drawn twice: the game would show one of the two by chance.

@@ -49,6 +49,11 @@ void Sink::AddFrames(const std::string& stem, const std::vector<Image>& frames, 
 		Add(stem + std::to_string(first + (int)i) + extension, frames[i]);
 }
 
+void Sink::AddBytes(const std::string& name, std::string bytes)
+{
+	pictures.push_back({name, std::move(bytes), 0, 0});
+}
+
 void Catalogue::Add(const std::string& group, const char* source, std::function<void(Sink&)> draw)
 {
 	groups.push_back({group, source, std::move(draw)});

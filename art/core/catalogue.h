@@ -27,6 +27,8 @@ public:
 	// The frames of a sequence as <stem>0.png, <stem>1.png and so on, all of one size.
 	void AddFrames(const std::string& stem, const std::vector<Image>& frames, int first = 0,
 	               const std::string& extension = ".png");
+	// What is no picture, as it stands: sounds (.ogg) and music (.mdt).
+	void AddBytes(const std::string& name, std::string bytes);
 
 	std::vector<Picture> pictures; // in order of Add
 };

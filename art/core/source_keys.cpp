@@ -32,8 +32,11 @@ const SourceKeys::File& SourceKeys::Look(const std::string& path)
 	File file;
 	std::string text;
 	ReadFile(Full(path), text);
-	bool isList            = path == "art/families.h";
-	file.hash              = isList ? 0 : HashBytes(text);
+	bool isList = path == "art/families.h";
+	file.hash   = isList ? 0 : HashBytes(text);
+	std::error_code missing;
+	if (!isList)
+		file.time = std::filesystem::last_write_time(Full(path), missing);
 	const std::string mark = "#include \"";
 	for (size_t at = text.find(mark); at != std::string::npos; at = text.find(mark, at + 1)) {
 		size_t from = at + mark.size(), to = text.find('"', from);

@@ -8,10 +8,12 @@
 #include <chrono>
 #include <cstdio>
 #include <filesystem>
+#include <fluidsynth.h>
 #include <jpeglib.h>
 #include <pango/pangocairo.h>
 #include <png.h>
 #include <thread>
+#include <vorbis/codec.h>
 
 Workshop::Workshop(const std::string& root, const std::string& cacheFolder, int threads)
     : keys(root), cacheFolder(cacheFolder), threads(std::max(1, threads))
@@ -22,11 +24,12 @@ Workshop::Workshop(const std::string& root, const std::string& cacheFolder, int 
 	}
 }
 
-// Pictures depend on the drawing libraries too.
+// What is made depends on the libraries too.
 static std::string LibraryVersions()
 {
 	return std::string(cairo_version_string()) + " " + pango_version_string() + " " +
-	       PNG_LIBPNG_VER_STRING + " " + std::to_string(JPEG_LIB_VERSION);
+	       PNG_LIBPNG_VER_STRING + " " + std::to_string(JPEG_LIB_VERSION) + " " +
+	       vorbis_version_string() + " " + fluid_version_str();
 }
 
 std::vector<Picture> Workshop::Run(const std::vector<Group>& groups)

@@ -137,7 +137,7 @@ static void DrawIvy(Image& image, int variant)
 	Random random(5 + variant);
 	Colour green = HexColour(0x4f8a34);
 	for (int i = 0; i < 8; i++) {
-		float x = random.Range(15, WALL_WIDTH - 15), top = WallFoot(x, variant) - 34;
+		float x = random.Range(15, WALL_WIDTH - 15), top = WallFoot(x, variant) - 31;
 		int strands = 2 + random.Below(4);
 		for (int pass = 0; pass < 2; pass++) {
 			Random same(i * 9 + variant);
@@ -162,7 +162,7 @@ static void DrawIvy(Image& image, int variant)
 static Image DrawWall(Masonry masonry, int variant)
 {
 	// the ice is lower, for the snow on top of it has to find room in the picture
-	const float ROWS[2][3] = {{10.4f, 10, 9.6f}, {9, 8.6f, 8.4f}};
+	const float ROWS[2][3] = {{9.8f, 9.4f, 9}, {8.8f, 8.4f, 8.2f}};
 	WallBuilder wall(masonry, variant);
 	wall.AddMaterials();
 	float lift = 0;

@@ -25,9 +25,9 @@ struct TrunkLook {
 // clang-format off
 static const TrunkLook s_trunks[] = {
 	// name                 foot     picture   radius boughs spread crownX seed
-	{ "treetrunkbigA.png",   52, 95, 104, 104,  8.4f,  5,    44,  -10,    1 },
-	{ "treetrunkbigB.png",   66, 95, 132, 104,  8.8f,  6,    50,    0,    2 },
-	{ "treetrunkbigC.png",   70, 97, 140, 106,  8.6f,  6,    54,    0,    3 },
+	{ "treetrunkbigA.png",   52, 95, 104, 106,  8.4f,  5,    44,  -10,    1 },
+	{ "treetrunkbigB.png",   66, 95, 132, 106,  8.8f,  6,    50,    0,    2 },
+	{ "treetrunkbigC.png",   70, 97, 140, 108,  8.6f,  6,    54,    0,    3 },
 	{ "treetrunkthinA.png",  13, 80,  26,  87,  3.6f,  3,     9,   -3,    4 },
 	{ "treetrunkthinB.png",  13, 81,  26,  87,  3.6f,  3,     9,   -3,    5 },
 	{ "treetrunksmallA.png", 44, 68,  88,  76,  6.2f,  4,    32,    0,    6 },

@@ -167,7 +167,8 @@ static void DrawMain(Sink& sink)
 
 // --- digit strips
 
-// Rows from the top: blank, 1 to 9, 0 and again 1, each a rounded face of a drum.
+// Rows from the top: the pale zero that leads a number, 1 to 9, 0 and again 1, each a rounded face
+// of a drum.
 static Image DigitStrip(Colour paper, Colour figure)
 {
 	Canvas canvas(DIGIT_WIDTH, DIGIT_HEIGHT * STRIP_ROWS);
@@ -178,6 +179,7 @@ static Image DigitStrip(Colour paper, Colour figure)
 		              float side = Smoothstep(0, 1.6f, std::min(x, DIGIT_WIDTH - x));
 		              return paper * (tone * Mix(.45f, 1.f, side));
 	              });
+	canvas.Fill(Lettering("0", 18, DIGIT_WIDTH * .5f, DIGIT_HEIGHT * .5f), figure, .26f, .1f);
 	for (int row = 1; row < STRIP_ROWS; row++) {
 		float y = row * DIGIT_HEIGHT + DIGIT_HEIGHT * .5f;
 		canvas.Print(std::to_string(row % 10), 18, DIGIT_WIDTH * .5f, y + .7f, PAINT_WHITE,

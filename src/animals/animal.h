@@ -126,6 +126,7 @@ protected:
 	void PlaceOn(CFence* fence, bool left);
 	void StartLife(bool left); // the first action; part of those that place
 
+	void FlyAsPerchingBird();            // the flight numbers that all perching birds share
 	CSprite* OwnSprite(CSprite* sprite); // deleted with the animal
 	CSound* OwnSound(CSound* sound);
 	AnimalAction* ActionOfKind(int kind) const; // the first; null without one

@@ -19,6 +19,15 @@ static const int GROUND_LEFT = 40, GROUND_RIGHT = 653; // where open ground is l
 static const int GROUND_TOP = 325, GROUND_BOTTOM = 450;
 static const int SHORTEST_FLIGHT = 30, LONGEST_FLIGHT = 90; // frames
 
+void CElementAnimal::FlyAsPerchingBird()
+{
+	flightSpeedX  = 3;
+	flightSpeedY  = 1;
+	flightSpeedZ  = 0.5f;
+	flightCeiling = 100;
+	flightMargin  = 5;
+}
+
 void CElementAnimal::BeginFlight()
 {
 	if (!flightAction)

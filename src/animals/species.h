@@ -68,9 +68,9 @@ struct ActionOptions {
 //         stands in several rows is told apart by a tag before a colon, "raise:lowerhead", and
 //         follow-ups then name the tag.
 // frames  The pictures in order, as groups with a space between: "0-4", "4-0", "7", "." for the
-//         picture without a number, a word for prefix + word + side + that word ("blink"),
-//         "=climbcommon0-7" for prefix + that, the same on both sides, and "*12" after a single
-//         one to hold it that many times. Empty is ".".
+//         picture without a number. A word in front goes behind the side: "blink", "up0-7"; with
+//         "=" it stands for word and side, "=climbcommon0-7". "*12" behind a single picture holds
+//         it that many times. Empty is ".".
 // then    Up to three names with "/" between, equal chances. Empty is the idle action; ANY makes
 //         the weighted choice, as the idle action itself always does.
 struct ActionRow {

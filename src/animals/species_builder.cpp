@@ -6,7 +6,6 @@
 #include "sound/sound.h"
 
 #include <algorithm>
-#include <cctype>
 #include <cstdlib>
 #include <cstring>
 
@@ -38,32 +37,31 @@ struct Stems {
 	std::string numbered; // and with the word's tail, for numbers
 };
 
-// Adds the files of one group of a frames text.
-static void AddGroup(std::string group, const Stems& stems, std::vector<std::string>& files)
+// Adds the files of one group of a frames text: a word or none, numbers or none, times or none.
+static void AddGroup(const std::string& group, const Stems& stems, std::vector<std::string>& files)
 {
-	std::string stem = stems.numbered;
-	if (group[0] == '=') {
-		size_t number = group.find_first_of("0123456789");
-		stem          = stems.prefix + group.substr(1, number - 1);
-		group         = number == std::string::npos ? "." : group.substr(number);
-	}
-	size_t star      = group.find('*');
-	std::string what = group.substr(0, star);
-	int times        = star == std::string::npos ? 1 : std::atoi(group.c_str() + star + 1);
-	size_t dash      = what.find('-');
+	size_t star         = group.find('*');
+	std::string what    = group.substr(0, star);
+	int times           = star == std::string::npos ? 1 : std::atoi(group.c_str() + star + 1);
+	size_t digit        = std::min(what.find_first_of("0123456789"), what.size());
+	std::string word    = what.substr(0, digit);
+	std::string numbers = what.substr(digit);
 
-	if (what == ".") {
-		files.insert(files.end(), times, stem + ".png");
-	} else if (!isdigit(static_cast<unsigned char>(what[0]))) {
-		files.insert(files.end(), times, stems.plain + what + ".png");
-	} else if (dash == std::string::npos) {
-		files.insert(files.end(), times, stem + what + ".png");
-	} else {
-		int first = std::atoi(what.c_str()), last = std::atoi(what.c_str() + dash + 1);
-		int step = first <= last ? 1 : -1;
-		for (int i = first; i != last + step; i += step)
-			files.push_back(stem + std::to_string(i) + ".png");
+	std::string stem = stems.plain + word;
+	if (word.empty() || word == ".")
+		stem = stems.numbered;
+	else if (word[0] == '=')
+		stem = stems.prefix + word.substr(1);
+
+	size_t dash = numbers.find('-');
+	if (dash == std::string::npos) {
+		files.insert(files.end(), times, stem + numbers + ".png");
+		return;
 	}
+	int first = std::atoi(numbers.c_str()), last = std::atoi(numbers.c_str() + dash + 1);
+	int step = first <= last ? 1 : -1;
+	for (int i = first; i != last + step; i += step)
+		files.push_back(stem + std::to_string(i) + ".png");
 }
 
 std::vector<std::string> PictureFiles(const char* prefix, const char* word, bool left,

@@ -112,8 +112,8 @@ CBackground::CBackground(const BackgroundLook& newLook) : look(newLook), weather
 	if (look.fenceVariant != 0 && look.fenceVariant != 1)
 		look.fenceVariant = Rand() % 2;
 	StartSounds();
-	weather->hasFireflies = look.sky == SKY_NIGHT && !look.rain && !look.snow && !look.hail &&
-	                        Rand() % 4 == 0;
+	weather->hasFireflies =
+	    look.sky == SKY_NIGHT && !look.rain && !look.snow && !look.hail && Rand() % 4 == 0;
 	if (look.clouds)
 		weather->clouds.Make();
 	backdropImage = g_display->NewScreenImage();
@@ -196,8 +196,8 @@ void CBackground::PaintGround()
 
 void CBackground::PaintHills()
 {
-	std::string stem = std::string("background_") + GroundOf(look).hillWord + "_hill_";
-	int horizon      = WALL_BASE + look.horizonOffset + HILL_FOOT - look.hillsHeight;
+	std::string stem  = std::string("background_") + GroundOf(look).hillWord + "_hill_";
+	int horizon       = WALL_BASE + look.horizonOffset + HILL_FOOT - look.hillsHeight;
 	weather->hills[0] = PaintHill(stem + "bottom.jpg", horizon, look.hillsHeight);
 	int top           = g_display->LoadImage(stem + "top.png");
 	int topHeight     = g_display->ImageHeight(top);
@@ -222,7 +222,7 @@ CSprite* CBackground::PaintHill(const std::string& name, int y, int rows)
 
 void CBackground::PaintWall()
 {
-	int top         = WALL_BASE + look.horizonOffset;
+	int top          = WALL_BASE + look.horizonOffset;
 	std::string name = std::string("background_fence") + GroundOf(look).wallWord +
 	                   (look.fenceVariant == 0 ? "A" : "B") + ".png";
 	int picture = g_display->LoadImage(name);

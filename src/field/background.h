@@ -22,9 +22,9 @@ enum Sky {
 // The seventeen values that a level gives, in their order.
 struct BackgroundLook {
 	int ground        = GROUND_GRASS;
-	int groundX       = 0;  // pixels the ground pictures are shifted left
-	int groundMargin  = 20; // pixels the ground's lower picture stands below its natural place
-	int fenceVariant  = -1; // 0 or 1; -1 takes a random one
+	int groundX       = 0;   // pixels the ground pictures are shifted left
+	int groundMargin  = 20;  // pixels the ground's lower picture stands below its natural place
+	int fenceVariant  = -1;  // 0 or 1; -1 takes a random one
 	int horizonOffset = -10; // the wall's top is 122 plus this
 	bool hills        = false;
 	int hillsX        = 0; // pixels the hill pictures are shifted left
@@ -59,7 +59,7 @@ public:
 
 	BackgroundLook look;
 	int backdropImage = -1;
-	CSprite* backdrop = nullptr; // owned
+	CSprite* backdrop = nullptr;   // owned
 	int beamTop = 0, fieldTop = 0; // pixels
 	bool weatherRunning = true;
 

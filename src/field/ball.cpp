@@ -18,9 +18,9 @@ static const int REBOUND_FRAMES    = 3; // between two rebound sounds
 static const int WOBBLE_DELAY      = 2; // frames a picture
 static const float SPEED_UP        = 1.3f;
 static const float SLOW_DOWN       = 0.7692308f; // takes one SPEED_UP back
-static const float FLATTEST_VY     = 1.2f;  // pixels per frame
-static const float STEEPEN         = 0.05f; // pixels per frame, each frame
-static const float EASING_GAIN     = 0.5f;  // pixels per frame, each frame
+static const float FLATTEST_VY     = 1.2f;       // pixels per frame
+static const float STEEPEN         = 0.05f;      // pixels per frame, each frame
+static const float EASING_GAIN     = 0.5f;       // pixels per frame, each frame
 static const float EASING_DONE     = 0.0001f;
 static const float FAN_LIMIT       = 1.25f; // times the remembered speed
 static const float PULL_REACH      = 100;   // pixels
@@ -161,7 +161,10 @@ void CBall::PlaceSprites()
 	}
 }
 
-float CBall::Speed() const { return std::sqrt(vx * vx + vy * vy); }
+float CBall::Speed() const
+{
+	return std::sqrt(vx * vx + vy * vy);
+}
 
 void CBall::ScaleSpeed(float factor)
 {
@@ -169,9 +172,15 @@ void CBall::ScaleSpeed(float factor)
 	vy *= factor;
 }
 
-void CBall::SpeedUp() { ScaleSpeed(SPEED_UP); }
+void CBall::SpeedUp()
+{
+	ScaleSpeed(SPEED_UP);
+}
 
-void CBall::SlowDown() { ScaleSpeed(SLOW_DOWN); }
+void CBall::SlowDown()
+{
+	ScaleSpeed(SLOW_DOWN);
+}
 
 void CBall::ResetSpeed()
 {
@@ -245,11 +254,20 @@ void CBall::ChangeSkin(BallSkin newSkin)
 	RefreshSprites();
 }
 
-void CBall::SetSkinBulldozer() { ChangeSkin(SKIN_BULLDOZER); }
+void CBall::SetSkinBulldozer()
+{
+	ChangeSkin(SKIN_BULLDOZER);
+}
 
-void CBall::SetSkinGravity() { ChangeSkin(SKIN_GRAVITY); }
+void CBall::SetSkinGravity()
+{
+	ChangeSkin(SKIN_GRAVITY);
+}
 
-void CBall::SetSkinNormal() { ChangeSkin(SKIN_NORMAL); }
+void CBall::SetSkinNormal()
+{
+	ChangeSkin(SKIN_NORMAL);
+}
 
 void CBall::StartEasing(float factor)
 {

@@ -35,8 +35,8 @@ struct TrailBubble {
 class CBall : public CElementMove
 {
 public:
-	static constexpr int STAGES        = 19;
-	static constexpr int TRAIL_BUBBLES = 20;
+	static constexpr int STAGES              = 19;
+	static constexpr int TRAIL_BUBBLES       = 20;
 	static constexpr int MOST_SMALL_CONTENTS = 60; // fruit and eggs beyond are not shown
 
 	CBall();
@@ -66,8 +66,8 @@ public:
 	void SetSkinBulldozer();
 	void SetSkinGravity();
 	void SetSkinNormal();
-	void StartEasing(float factor); // slows down by factor, to return by EaseBack
-	void EaseBack();                // one frame of it
+	void StartEasing(float factor);          // slows down by factor, to return by EaseBack
+	void EaseBack();                         // one frame of it
 	void BlowFrom(float fromX, float fromY); // one frame of the fan's push
 	void PlayRebound();                      // at most every third frame
 	// Takes a thing of the shared table of kinds in; kinds that never reach the ball do nothing.
@@ -80,7 +80,7 @@ public:
 	int AcornCount() const { return acorns; }
 	int CoconutCount() const { return coconuts; }
 
-	int load = 0; // sum of the weights put in
+	int load = 0;                       // sum of the weights put in
 	std::vector<BallContent*> contents; // owned
 	bool easing           = false;      // returning to the remembered speed
 	float rememberedSpeed = 0;

@@ -11,18 +11,18 @@
 #include <cmath>
 #include <iterator>
 
-static const float RIM              = 5;       // pixels between a content and the glass
-static const float THICK_RIM_FROM   = 30;      // pixels of radius
+static const float RIM              = 5;        // pixels between a content and the glass
+static const float THICK_RIM_FROM   = 30;       // pixels of radius
 static const float BOTTOM_FROM      = 3.01659f; // angles of the bubble's bottom
 static const float BOTTOM_TO        = 3.26659f;
 static const float SLIDE_STEP       = 0.125f; // radians per frame
 static const int FIRST_MOVING_STAGE = 2;
 
 enum ImageKind {
-	IMAGES_NAMED,   // the word is a list of file names
-	IMAGES_BUBBLE,  // the word with both sides' bubble pictures
-	IMAGES_RIGHT,   // the right side's only
-	IMAGES_WINGS,   // a butterfly's two sides
+	IMAGES_NAMED,  // the word is a list of file names
+	IMAGES_BUBBLE, // the word with both sides' bubble pictures
+	IMAGES_RIGHT,  // the right side's only
+	IMAGES_WINGS,  // a butterfly's two sides
 };
 
 struct KindRow {

@@ -9,16 +9,16 @@
 
 #include <cmath>
 
-static const float WALL_BOTTOM       = 600;     // pixels; the walls reach from 0 to here
-static const float WALL_GAP          = 0.01f;   // pixels that a repair leaves between ball and wall
-static const float LEAST_EMBEDDING   = 0.01f;   // pixels; a shallower point is only touched
+static const float WALL_BOTTOM     = 600;   // pixels; the walls reach from 0 to here
+static const float WALL_GAP        = 0.01f; // pixels that a repair leaves between ball and wall
+static const float LEAST_EMBEDDING = 0.01f; // pixels; a shallower point is only touched
 // A contact nearer than WALL_GAP is what the ball is just leaving. Rounding near x = 693 is up to
 // 0.0002: without the allowance a ball put back from a wall could miss it for good.
 static const float LEAST_DISTANCE    = 0.0095f; // pixels
 static const float LEAST_PART        = 0.01f;   // of the motion, spent by each bounce
 static const float MOTION_DONE       = 0.01f;   // pixels
 static const float REACH_ALLOWANCE   = 0.1f;    // pixels; far above any rounding
-static const int MOST_CIRCLE_TOUCHES = 1000;    // a frame; ends the walk if a circle is never removed
+static const int MOST_CIRCLE_TOUCHES = 1000; // a frame; ends the walk if a circle is never removed
 
 float Wrap(float angle)
 {
@@ -29,7 +29,10 @@ float Wrap(float angle)
 	return angle;
 }
 
-float HeadingOf(float dx, float dy) { return Wrap(PI_SHORT - std::atan2(dx, dy)); }
+float HeadingOf(float dx, float dy)
+{
+	return Wrap(PI_SHORT - std::atan2(dx, dy));
+}
 
 static bool Between(float value, float a, float b)
 {
@@ -206,8 +209,8 @@ void BallPhysics::CollectSegments(float reach)
 
 bool BallPhysics::MeetsFace(const Segment& segment, float r, Contact& contact) const
 {
-	float normal = PI_SHORT - std::atan2(segment.x1 - segment.x2, segment.y1 - segment.y2) -
-	               HALF_PI_SHORT;
+	float normal =
+	    PI_SHORT - std::atan2(segment.x1 - segment.x2, segment.y1 - segment.y2) - HALF_PI_SHORT;
 	float cx = ball->x + std::sin(normal) * r, cy = ball->y - std::cos(normal) * r;
 	float opposite = normal + PI_SHORT;
 	float ox = ball->x + std::sin(opposite) * r, oy = ball->y - std::cos(opposite) * r;
@@ -230,8 +233,7 @@ bool BallPhysics::MeetsFace(const Segment& segment, float r, Contact& contact) c
 	return true;
 }
 
-bool BallPhysics::MeetsEnd(const Segment& segment, float r, float remaining,
-                           Contact& contact) const
+bool BallPhysics::MeetsEnd(const Segment& segment, float r, float remaining, Contact& contact) const
 {
 	const Vec2 ends[2] = {{segment.x1, segment.y1}, {segment.x2, segment.y2}};
 	bool met           = false;
@@ -261,7 +263,8 @@ bool BallPhysics::MeetsSegment(const Segment& segment, float r, float remaining,
 }
 
 // Most candidates lie beside or behind the ball. What the motion can meet lies within r of its
-// line; a segment wholly on one side of that strip, or of its ends, needs no closer look.
+// line; a segment wholly on one side of that strip, or of its ends, needs no closer look. Nor does
+// one that even the ball's foremost point reaches later than the best so far.
 BallPhysics::Contact BallPhysics::NearestContact(float r, float remaining) const
 {
 	Contact best;
@@ -275,7 +278,8 @@ BallPhysics::Contact BallPhysics::NearestContact(float r, float remaining) const
 		float across1 = x1 * uy - y1 * ux, across2 = x2 * uy - y2 * ux;
 		float along1 = x1 * ux + y1 * uy, along2 = x2 * ux + y2 * uy;
 		if ((across1 > side && across2 > side) || (across1 < -side && across2 < -side) ||
-		    (along1 > ahead && along2 > ahead) || (along1 < -side && along2 < -side))
+		    (along1 > ahead && along2 > ahead) || (along1 < -side && along2 < -side) ||
+		    (best.segment && std::fmin(along1, along2) - side > best.distance))
 			continue;
 
 		Contact contact;

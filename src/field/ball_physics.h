@@ -83,7 +83,7 @@ private:
 	bool MeetsEnd(const Segment& segment, float r, float remaining, Contact& contact) const;
 	void MoveBall(float dx, float dy);
 
-	CBall* ball;     // not owned
-	CPaddle* paddle; // not owned
+	CBall* ball;                                      // not owned
+	CPaddle* paddle;                                  // not owned
 	std::vector<ObstaclePoint*> nearPoints, partners; // scratch
 };

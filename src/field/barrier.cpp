@@ -13,15 +13,15 @@
 #include <cmath>
 #include <string>
 
-static const int DEPTH             = 617;
-static const int MAIN_LOOP_START   = 15; // picture
-static const int RISE_FRAMES       = 7;
-static const float PULSE_SPEED     = 7;  // pixels per frame
-static const float PULSE_TURN_LEFT = 40; // pixels; beyond these the pulse is slowed and turned
+static const int DEPTH              = 617;
+static const int MAIN_LOOP_START    = 15; // picture
+static const int RISE_FRAMES        = 7;
+static const float PULSE_SPEED      = 7;  // pixels per frame
+static const float PULSE_TURN_LEFT  = 40; // pixels; beyond these the pulse is slowed and turned
 static const float PULSE_TURN_RIGHT = 653;
-static const float PULSE_TURN      = 0.55f; // pixels per frame, each frame
-static const int BUMP_STEPS        = 7;
-static const int AT_REST           = -1; // bump step
+static const float PULSE_TURN       = 0.55f; // pixels per frame, each frame
+static const int BUMP_STEPS         = 7;
+static const int AT_REST            = -1; // bump step
 
 // The shift in pixels at each step of a bump, from step 1.
 static const int s_bumpOffset[BUMP_STEPS + 1] = {0, 3, 4, 3, 0, -2, -1, 0};
@@ -71,7 +71,10 @@ CBarrier::~CBarrier()
 		g_barrier = nullptr;
 }
 
-int CBarrier::FloorLine() const { return SCREEN_HEIGHT - mainSprite->Height(); }
+int CBarrier::FloorLine() const
+{
+	return SCREEN_HEIGHT - mainSprite->Height();
+}
 
 void CBarrier::Raise(int atX)
 {
@@ -153,8 +156,7 @@ void CBarrier::PlaceSprites()
 	topSprite->SetPos(0, floor + bumpOffset);
 	int middle = floor + mainSprite->Height() / 2 + bumpOffset;
 	for (CSprite* pulse : {pulseLeft, pulseRight}) {
-		pulse->SetPos(static_cast<int>(pulseX) - pulse->Width() / 2,
-		              middle - pulse->Height() / 2);
+		pulse->SetPos(static_cast<int>(pulseX) - pulse->Width() / 2, middle - pulse->Height() / 2);
 	}
 }
 

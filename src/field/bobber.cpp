@@ -5,7 +5,7 @@
 #include <cstdlib>
 
 CBobber::CBobber(float newCentre, int newHalfSwing, float newCurve, float newAmplitude, int start)
-	: centre(newCentre), halfSwing(newHalfSwing), curve(newCurve), amplitude(newAmplitude)
+    : centre(newCentre), halfSwing(newHalfSwing), curve(newCurve), amplitude(newAmplitude)
 {
 	int rest = start % halfSwing;
 	switch (start / halfSwing % 4) {
@@ -42,7 +42,10 @@ void CBobber::Step()
 		offset = -offset;
 }
 
-int CBobber::Value() const { return static_cast<int>(offset + centre); }
+int CBobber::Value() const
+{
+	return static_cast<int>(offset + centre);
+}
 
 int CBobber::StepValue()
 {

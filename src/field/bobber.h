@@ -9,8 +9,8 @@ public:
 	CBobber(float newCentre, int newHalfSwing, float newCurve, float newAmplitude, int start);
 
 	void Step();
-	int Value() const;  // centre plus offset, cut toward zero
-	int StepValue();    // Step, then Value
+	int Value() const; // centre plus offset, cut toward zero
+	int StepValue();   // Step, then Value
 
 	float centre;
 	int phase;

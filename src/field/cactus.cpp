@@ -9,8 +9,8 @@
 #include <string>
 
 static const int KIND_BIG = 3, KIND_SMALL = 2, KIND_ROUND_BIG = 1;
-static const int FOOT     = 12; // pixels from a tall cactus' lower edge up to the place given
-static const int CORNERS  = 4;
+static const int FOOT    = 12; // pixels from a tall cactus' lower edge up to the place given
+static const int CORNERS = 4;
 
 static const int BIG_VARIANTS = 5, SMALL_VARIANTS = 3, ROUND_VARIANTS = 11;
 
@@ -75,7 +75,10 @@ CCactus::CCactus(int newX, int newY, int newKind, int newVariant) : sprite(new C
 	LayOutline(this, x, y, foot, CORNERS);
 }
 
-CCactus::~CCactus() { delete sprite; }
+CCactus::~CCactus()
+{
+	delete sprite;
+}
 
 // After a shiver it stands upright again.
 void CCactus::Update()

@@ -29,8 +29,8 @@ void CClouds::Make()
 	for (const auto& size : CLASSES)
 		for (int i = 0; i < size.count; i++, next++) {
 			next->sprite = new CSprite(CLOUD_DEPTH);
-			next->sprite->AddFile(std::string("background_cloud") + size.word +
-			                      std::to_string(i) + ".png");
+			next->sprite->AddFile(std::string("background_cloud") + size.word + std::to_string(i) +
+			                      ".png");
 			next->sprite->Hide();
 		}
 	for (int i = 0; i < 3; i++)

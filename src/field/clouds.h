@@ -13,7 +13,7 @@ public:
 
 	CClouds() = default;
 	~CClouds();
-	CClouds(const CClouds&) = delete;
+	CClouds(const CClouds&)            = delete;
 	CClouds& operator=(const CClouds&) = delete;
 
 	void Make(); // the sprites, hidden, and the first clouds

@@ -9,12 +9,12 @@
 #include <algorithm>
 #include <string>
 
-static const int DEPTH         = 20;
-static const int FRAME_DELAY   = 2; // frames of play for each picture
-static const int LAST_PICTURE  = 3;
-static const int LAST_STANDS   = 18; // pictures that the banner stands when it has sprung in
-static const int GAP           = 4;  // pixels between number and word
-static const int BELOW_BALL    = 10; // pixels
+static const int DEPTH        = 20;
+static const int FRAME_DELAY  = 2; // frames of play for each picture
+static const int LAST_PICTURE = 3;
+static const int LAST_STANDS  = 18; // pictures that the banner stands when it has sprung in
+static const int GAP          = 4;  // pixels between number and word
+static const int BELOW_BALL   = 10; // pixels
 static const int LOST_X = 346, LOST_Y = 300; // where it stands without a ball
 static const int BOB_HALF_SWING  = 4;
 static const float BOB_CURVE     = 3.0f;

@@ -13,16 +13,16 @@ public:
 
 	CComboBanner() = default;
 	~CComboBanner();
-	CComboBanner(const CComboBanner&) = delete;
+	CComboBanner(const CComboBanner&)            = delete;
 	CComboBanner& operator=(const CComboBanner&) = delete;
 
 	void Show(int combo); // 2 or more; by the ball
 	void Step();          // once a frame
 
-	int current      = -1;      // index of the banner on screen, -1 without one
-	CBobber* bobber  = nullptr; // owned; only while a banner shows
-	CSprite* number[BANNERS] = {}; // owned, made when first needed
-	CSprite* word[BANNERS]   = {}; // owned
+	int current              = -1;      // index of the banner on screen, -1 without one
+	CBobber* bobber          = nullptr; // owned; only while a banner shows
+	CSprite* number[BANNERS] = {};      // owned, made when first needed
+	CSprite* word[BANNERS]   = {};      // owned
 
 private:
 	void Load(int i);

@@ -47,11 +47,11 @@ std::vector<CCrate*> CCrate::CrateList;
 CCrate::CCrate(int newX, int newY, int newLayer, int newContents, int newValue,
                bool newContainsPowerup, bool newBarrel, bool newAppleCrate, CCrate* anchor,
                int newOrderNumber)
-	: containsPowerup(newContainsPowerup && !newAppleCrate), barrel(newBarrel && !newAppleCrate),
-	  appleCrate(newAppleCrate), contents(newAppleCrate ? int(POINT_APPLE) : newContents),
-	  value(newAppleCrate ? -1 : newValue), layer(newLayer), layerHeight(barrel ? 37 : 26),
-	  depthOffset(barrel ? 42 : 30), explosionOffsetX(barrel ? 32 : 20), explosionOffsetY(42),
-	  orderNumber(newOrderNumber)
+    : containsPowerup(newContainsPowerup && !newAppleCrate), barrel(newBarrel && !newAppleCrate),
+      appleCrate(newAppleCrate), contents(newAppleCrate ? int(POINT_APPLE) : newContents),
+      value(newAppleCrate ? -1 : newValue), layer(newLayer), layerHeight(barrel ? 37 : 26),
+      depthOffset(barrel ? 42 : 30), explosionOffsetX(barrel ? 32 : 20), explosionOffsetY(42),
+      orderNumber(newOrderNumber)
 {
 	CrateList.push_back(this);
 	if (anchor) {

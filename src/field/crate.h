@@ -38,13 +38,13 @@ public:
 	int contents; // point kind or power-up kind; 0 for none
 	int value;
 	bool falling = false;
-	int layer; // 0 on the ground
-	int hits = 0; // 0 to 3
+	int layer;       // 0 on the ground
+	int hits    = 0; // 0 to 3
 	bool broken = false;
 	int layerHeight, depthOffset, explosionOffsetX, explosionOffsetY; // pixels
 	int orderNumber;
-	CCrate* upper             = nullptr; // stands on this one; not owned
-	CElementAnimal* occupant  = nullptr; // not owned
+	CCrate* upper            = nullptr; // stands on this one; not owned
+	CElementAnimal* occupant = nullptr; // not owned
 
 	// sprites, owned; currentSprite is one of the first four
 	CSprite* base;
@@ -52,8 +52,8 @@ public:
 	CSprite* heavy;
 	CSprite* squash;
 	CSprite* explosion;
-	CSprite* orderSprite;  // null without a number
-	CBobber* orderBobber;  // owned
+	CSprite* orderSprite;     // null without a number
+	CBobber* orderBobber;     // owned
 	CSound* damageSounds[3];  // owned
 	CSound* destroySounds[3]; // owned
 

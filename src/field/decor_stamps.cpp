@@ -1,9 +1,9 @@
 // Where flowers and tufts of grass stand on a meadow.
 #include "field/decor_stamps.h"
 
-static const int FULL_PRESETS      = 6;
+static const int FULL_PRESETS     = 6;
 static const int FIRST_TUFTS_ONLY = 6; // has the tufts of preset 1, and so on
-static const int LAST_PRESET       = 10;
+static const int LAST_PRESET      = 10;
 
 // clang-format off
 // Flowers grow in drifts of one kind; each list runs from left to right.

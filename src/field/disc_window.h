@@ -12,7 +12,7 @@ class CDiscWindow
 public:
 	CDiscWindow();
 	~CDiscWindow();
-	CDiscWindow(const CDiscWindow&) = delete;
+	CDiscWindow(const CDiscWindow&)            = delete;
 	CDiscWindow& operator=(const CDiscWindow&) = delete;
 
 	void ShowDisc(int newIndex); // a timer index; in place of what showed

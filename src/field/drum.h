@@ -22,8 +22,8 @@ public:
 	static bool AnyCloudAt(int atX, int atY, int r);
 	static std::vector<CDrum*> DrumList; // live instances
 
-	int hits     = 0; // 0 to 3
-	int side; // of the last cloud, 0 left, 1 right: flips with each
+	int hits = 0;         // 0 to 3
+	int side;             // of the last cloud, 0 left, 1 right: flips with each
 	bool counted = false; // its upset has been counted
 
 	// sprites, owned; currentSprite is one of the first four
@@ -31,8 +31,8 @@ public:
 	CSprite* light;
 	CSprite* heavy;
 	CSprite* spewing;
-	CSprite* clouds[2]; // left, right
+	CSprite* clouds[2];              // left, right
 	CSprite* currentCloud = nullptr; // one of clouds
-	CSound* hitSound;   // owned
-	CSound* spewSound;  // owned
+	CSound* hitSound;                // owned
+	CSound* spewSound;               // owned
 };

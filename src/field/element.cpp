@@ -17,7 +17,10 @@ int CElement::FrameCounter = 0;
 static unsigned int s_nextOrder = 1;
 static std::vector<ObstaclePoint*> s_removedPoints; // the field's own, until ClearField
 
-CElement::CElement() { ElementList.push_back(this); }
+CElement::CElement()
+{
+	ElementList.push_back(this);
+}
 
 CElement::~CElement()
 {
@@ -25,13 +28,19 @@ CElement::~CElement()
 	RemoveTouchCircles(this);
 }
 
-bool CElement::OnBallHit() { return false; }
+bool CElement::OnBallHit()
+{
+	return false;
+}
 
 void CElement::OnStun(int) {}
 
 void CElement::Break(bool, int, int) {}
 
-int CElement::OnBump() { return -1; }
+int CElement::OnBump()
+{
+	return -1;
+}
 
 int CElement::FramesSinceLastHit()
 {
@@ -40,7 +49,10 @@ int CElement::FramesSinceLastHit()
 	return frames;
 }
 
-void CElement::AddDependant(CElement* element) { dependants.push_back(element); }
+void CElement::AddDependant(CElement* element)
+{
+	dependants.push_back(element);
+}
 
 ObstaclePoint* AddObstaclePoint(CElement* owner, float x, float y)
 {
@@ -75,15 +87,18 @@ void AddObstacleLine(CElement* owner, float x1, float y1, float x2, float y2)
 	}
 }
 
-void MoveObstacle(ObstaclePoint* point, float x, float y) { g_obstacleGrid.Move(point, x, y); }
+void MoveObstacle(ObstaclePoint* point, float x, float y)
+{
+	g_obstacleGrid.Move(point, x, y);
+}
 
 typedef std::vector<ObstaclePoint*>::iterator PointPlace;
 
 static PointPlace PlaceInList(PointPlace from, const ObstaclePoint* point)
 {
 	return std::lower_bound(
-		from, CElement::ObstaclePointList.end(), point,
-		[](const ObstaclePoint* a, const ObstaclePoint* b) { return a->order < b->order; });
+	    from, CElement::ObstaclePointList.end(), point,
+	    [](const ObstaclePoint* a, const ObstaclePoint* b) { return a->order < b->order; });
 }
 
 // The owner's points come in list order, so one pass closes all the gaps, from the first gap on.
@@ -131,7 +146,7 @@ void RemoveTouchCircles(CElement* owner)
 
 void RemoveFromElementList(CElement* element)
 {
-	std::vector<CElement*>& list = CElement::ElementList;
+	std::vector<CElement*>& list           = CElement::ElementList;
 	std::vector<CElement*>::iterator found = std::find(list.begin(), list.end(), element);
 	if (found != list.end())
 		list.erase(found);

@@ -12,9 +12,9 @@ const int FRAMES_A_SECOND = 31; // the game's own arithmetic
 struct ObstaclePoint {
 	float x, y;
 	CElement* owner;
-	unsigned int order = 0;  // place in the list: earlier is smaller; kept by the list
-	int cell           = -1; // of the obstacle grid; -1 while it is not in the list
-	bool fieldOwned    = false;           // freed by ClearField, not by its owner
+	unsigned int order         = 0;       // place in the list: earlier is smaller; kept by the list
+	int cell                   = -1;      // of the obstacle grid; -1 while it is not in the list
+	bool fieldOwned            = false;   // freed by ClearField, not by its owner
 	ObstaclePoint* nextOfOwner = nullptr; // the owner's points in list order
 };
 
@@ -37,14 +37,15 @@ public:
 
 	CElement();
 	virtual ~CElement();
-	CElement(const CElement&) = delete;
+	CElement(const CElement&)            = delete;
 	CElement& operator=(const CElement&) = delete;
 
 	// Copies the position to the sprites; called by the element at the end of its own Update.
 	virtual void Place() = 0;
 	// One frame of behaviour; called from FieldTick only, dead or alive.
 	virtual void Update() = 0;
-	// The ball has touched it. True: the ball goes on as if nothing had been there. False: it reflects.
+	// The ball has touched it. True: the ball goes on as if nothing had been there. False: it
+	// reflects.
 	virtual bool OnBallHit();
 	// A shot has hit it.
 	virtual void OnStun(int frames);
@@ -59,19 +60,19 @@ public:
 	void AddDependant(CElement* element);
 
 	std::vector<CElement*> dependants; // not owned
-	int lastHitFrame = 0;
-	bool active      = true; // an inactive animal neither moves nor can be caught
-	bool dead        = false;
-	bool isAnimal    = false;
-	bool isTree      = false;
-	bool leader      = false; // passes over the points of followers
-	bool follower    = false;
-	bool shotProof   = false; // alien shots pass through its points
-	bool shootable   = false; // an alien shot that reaches it calls OnStun
+	int lastHitFrame         = 0;
+	bool active              = true; // an inactive animal neither moves nor can be caught
+	bool dead                = false;
+	bool isAnimal            = false;
+	bool isTree              = false;
+	bool leader              = false; // passes over the points of followers
+	bool follower            = false;
+	bool shotProof           = false;   // alien shots pass through its points
+	bool shootable           = false;   // an alien shot that reaches it calls OnStun
 	CSprite* currentSprite   = nullptr; // the one on screen
 	CSprite* collisionSprite = nullptr; // its size is the element's size
-	float x = 0, y = 0; // pixels
-	float z = 0;        // height above the ground line
+	float x = 0, y = 0;                 // pixels
+	float z = 0;                        // height above the ground line
 
 	// its points in the list, kept by the list
 	ObstaclePoint* firstPoint = nullptr;
@@ -107,13 +108,13 @@ void AddObstacleRecord(ObstaclePoint* point); // not yet in the list; goes to it
 void AddObstacleLine(CElement* owner, float x1, float y1, float x2, float y2);
 // The only way to move a point that lies in the list.
 void MoveObstacle(ObstaclePoint* point, float x, float y);
-void RemoveObstaclePoints(CElement* owner); // cheap when there are none; the order is kept
+void RemoveObstaclePoints(CElement* owner);       // cheap when there are none; the order is kept
 bool AnyObstacleNear(int x, int y, float radius); // at a distance of at most radius
 
 void AddTouchCircle(CElement* owner, float x, float y, float radius);
 void RemoveTouchCircles(CElement* owner); // removes and frees
 
 void RemoveFromElementList(CElement* element); // does not delete
-void FieldTick();  // one frame of all elements
+void FieldTick();                              // one frame of all elements
 // Deletes every element and frees the field's own points. Touch circles go with their owners.
 void ClearField();

@@ -13,18 +13,18 @@
 #include <algorithm>
 #include <string>
 
-static const float GRAVITY          = 0.5f;   // pixels per frame per frame
-static const float SOFTEST_BOUNCE   = -12.0f; // vz above this comes to rest
-static const float BOUNCE_FRACTION  = -12.0f; // of the fall's speed, turned upward
-static const float BOUNCE_SLIDE     = 0.25f;  // of the sideways speed
-static const float BOUNCE_HEIGHT    = 0.1f;
-static const float REACH            = 3.0f; // radius of the touch circle, pixels
-static const int WALL_REACH         = 20;   // pixels above the field's top where a point stops
-static const int WALL_STOP          = 15;
-static const int COIN_FRAMES        = 47;
-static const int COIN_STILL_FRAMES  = 42;
-static const int PULL_WEIGHT        = 1;
-static const float HATCHED_X        = 2, HATCHED_LEFT_X = 27, HATCHED_Y = 9; // pixels
+static const float GRAVITY         = 0.5f;   // pixels per frame per frame
+static const float SOFTEST_BOUNCE  = -12.0f; // vz above this comes to rest
+static const float BOUNCE_FRACTION = -12.0f; // of the fall's speed, turned upward
+static const float BOUNCE_SLIDE    = 0.25f;  // of the sideways speed
+static const float BOUNCE_HEIGHT   = 0.1f;
+static const float REACH           = 3.0f; // radius of the touch circle, pixels
+static const int WALL_REACH        = 20;   // pixels above the field's top where a point stops
+static const int WALL_STOP         = 15;
+static const int COIN_FRAMES       = 47;
+static const int COIN_STILL_FRAMES = 42;
+static const int PULL_WEIGHT       = 1;
+static const float HATCHED_X = 2, HATCHED_LEFT_X = 27, HATCHED_Y = 9; // pixels
 
 struct PointImages {
 	int kind;
@@ -95,7 +95,7 @@ static CSprite* NewHatching(int depth, int kind)
 
 CElementPoint::CElementPoint(float newX, float newY, float newZ, int newKind, float newVx,
                              float newVy, float newVz)
-	: kind(newKind), firstKind(newKind), hatching(nullptr), thudSound(new CSound("subtle_thud.ogg"))
+    : kind(newKind), firstKind(newKind), hatching(nullptr), thudSound(new CSound("subtle_thud.ogg"))
 {
 	PointList.push_back(this);
 	x         = newX;

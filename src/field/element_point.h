@@ -6,14 +6,14 @@
 class CSound;
 
 enum PointKind {
-	POINT_APPLE      = 1,
-	POINT_ACORN      = 2,
-	POINT_PINECONE   = 3,
-	POINT_APPLE2     = 4, // the second set of apple pictures
-	POINT_COIN       = 6,
-	POINT_EGG_LEFT   = 18, // laid by a hen that faces left
-	POINT_EGG_RIGHT  = 19,
-	POINT_COCONUT    = 49,
+	POINT_APPLE     = 1,
+	POINT_ACORN     = 2,
+	POINT_PINECONE  = 3,
+	POINT_APPLE2    = 4, // the second set of apple pictures
+	POINT_COIN      = 6,
+	POINT_EGG_LEFT  = 18, // laid by a hen that faces left
+	POINT_EGG_RIGHT = 19,
+	POINT_COCONUT   = 49,
 };
 
 // Thrown up or lying; when it has come to rest it lays a touch circle, so it never deflects the
@@ -33,8 +33,8 @@ public:
 	static bool AnyCoinLeft();
 	static std::vector<CElementPoint*> PointList; // live instances
 
-	int kind;      // an apple of the second set becomes POINT_APPLE2
-	int firstKind; // as it was made
+	int kind;          // an apple of the second set becomes POINT_APPLE2
+	int firstKind;     // as it was made
 	CSprite* sprite;   // owned
 	CSprite* hatching; // owned; eggs only, null once it has hatched
 	bool bouncing = true;

@@ -8,7 +8,7 @@ static const int FRAME_X = 703, FRAME_Y = 234;
 static const int COLOUR_X = 703, COLOUR_Y = 235;
 static const int GLOW_X = 691, GLOW_Y = 222;
 static const int LAST_COLOUR = 5, LAST_GLOW = 8;
-static const float FULL_HEIGHT = 83;      // pixels
+static const float FULL_HEIGHT = 83; // pixels
 static const float FULL_CHARGE = 1000.0f;
 
 CFanGauge::CFanGauge()

@@ -9,7 +9,7 @@ class CFanGauge
 public:
 	CFanGauge();
 	~CFanGauge();
-	CFanGauge(const CFanGauge&) = delete;
+	CFanGauge(const CFanGauge&)            = delete;
 	CFanGauge& operator=(const CFanGauge&) = delete;
 
 	void ShowGlow(bool on);

@@ -42,7 +42,7 @@ static const RailStyle s_styles[3] = {
 std::vector<CFence*> CFence::FenceList;
 
 CFence::CFence(CFencePost* start, int direction, int newStyle, bool makeEndPost)
-	: style(std::clamp(newStyle, 0, 2))
+    : style(std::clamp(newStyle, 0, 2))
 {
 	FenceList.push_back(this);
 	bool left = direction == FENCE_LEFT;

@@ -34,9 +34,9 @@ public:
 
 	int hits = 0; // 0 to 3
 	int style;
-	bool broken = false;
-	CFencePost* leftPost  = nullptr; // not owned
-	CFencePost* rightPost = nullptr; // not owned
+	bool broken              = false;
+	CFencePost* leftPost     = nullptr; // not owned
+	CFencePost* rightPost    = nullptr; // not owned
 	CElementAnimal* occupant = nullptr; // not owned
 
 	// sprites, owned; currentSprite is one of the first three

@@ -19,7 +19,7 @@ public:
 
 	int state = 0;                 // the smallest hits among its sections
 	std::vector<CFence*> sections; // not owned
-	CSprite* base;  // owned
-	CSprite* light; // owned
-	CSprite* heavy; // owned
+	CSprite* base;                 // owned
+	CSprite* light;                // owned
+	CSprite* heavy;                // owned
 };

@@ -6,10 +6,10 @@
 
 #include <algorithm>
 
-static const int FLY_DEPTH  = 9500;
-static const int DARKEST    = 8; // number of the picture that shows next to nothing
-static const int LIT_FIRST  = 5; // glow from the start
-static const float LEFT     = 0, RIGHT = 670, TOP = 150, BOTTOM = 500; // pixels
+static const int FLY_DEPTH = 9500;
+static const int DARKEST   = 8; // number of the picture that shows next to nothing
+static const int LIT_FIRST = 5; // glow from the start
+static const float LEFT = 0, RIGHT = 670, TOP = 150, BOTTOM = 500; // pixels
 static const float MOST_SPEED = 1, MOST_PULL = 0.05f;
 
 CFireflies::~CFireflies()

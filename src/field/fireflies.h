@@ -11,7 +11,7 @@ public:
 
 	CFireflies() = default;
 	~CFireflies();
-	CFireflies(const CFireflies&) = delete;
+	CFireflies(const CFireflies&)            = delete;
 	CFireflies& operator=(const CFireflies&) = delete;
 
 	void Make();
@@ -19,10 +19,10 @@ public:
 	void Hide();
 
 	struct Fly {
-		float x, y;     // pixels
-		float vx, vy;   // pixels a frame, -1 to 1
-		float ax, ay;   // change of them a frame
-		int wait;       // frames until it glows, -1 while it does
+		float x, y;      // pixels
+		float vx, vy;    // pixels a frame, -1 to 1
+		float ax, ay;    // change of them a frame
+		int wait;        // frames until it glows, -1 while it does
 		CSprite* sprite; // owned
 	};
 	Fly flies[FLIES] = {};

@@ -24,7 +24,7 @@ static const float BOB_AMPLITUDE = 2.2f;
 static const int BOB_PHASES      = 15;
 
 CFlyaway::CFlyaway(int value, bool dollar, bool onPaddle, int atX, int atY, bool newOverSidebar)
-	: number(value), overSidebar(newOverSidebar)
+    : number(value), overSidebar(newOverSidebar)
 {
 	LoadDigits(dollar);
 
@@ -54,8 +54,8 @@ CFlyaway::~CFlyaway()
 
 void CFlyaway::AddSprite(const std::string& stem)
 {
-	CSprite* sprite = overSidebar ? new CSprite(DEPTH_SIDEBAR, 1, SPRITE_OVERLAY)
-	                              : new CSprite(DEPTH, 1);
+	CSprite* sprite =
+	    overSidebar ? new CSprite(DEPTH_SIDEBAR, 1, SPRITE_OVERLAY) : new CSprite(DEPTH, 1);
 	sprite->AddSequence(stem + "-", 0, LAST_FRAME, ".png");
 	sprite->SetStopAtEnd();
 	sprite->Hide();

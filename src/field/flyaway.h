@@ -23,9 +23,9 @@ public:
 
 	int number;
 	bool overSidebar;
-	int digits = 0; // the dollar sign counts
-	int age    = 0; // frames
-	int startX = 0; // of the leftmost digit
+	int digits = 0;                    // the dollar sign counts
+	int age    = 0;                    // frames
+	int startX = 0;                    // of the leftmost digit
 	CSprite* sprites[MOST_DIGITS + 1]; // owned, from the left
 	CBobber* bobber;                   // owned
 

@@ -52,8 +52,8 @@ void CHail::Step()
 void CHail::Land(Stone& stone)
 {
 	if (stone.speed > BOUNCE_SPEED) {
-		stone.speed = stone.speed / BOUNCE_LOSS * RandomRange(0.5f, 1.5f);
-		stone.dx    = stone.dx * 0.5f * RandomRange(0.5f, 1.5f);
+		stone.speed  = stone.speed / BOUNCE_LOSS * RandomRange(0.5f, 1.5f);
+		stone.dx     = stone.dx * 0.5f * RandomRange(0.5f, 1.5f);
 		stone.height = 0.1f;
 		return;
 	}

@@ -11,7 +11,7 @@ public:
 
 	CHail() = default;
 	~CHail();
-	CHail(const CHail&) = delete;
+	CHail(const CHail&)            = delete;
 	CHail& operator=(const CHail&) = delete;
 
 	void Make();
@@ -19,9 +19,9 @@ public:
 	void Hide();
 
 	struct Stone {
-		float x, y, height; // place on the ground and height above it, pixels
+		float x, y, height;  // place on the ground and height above it, pixels
 		float dx, dy, speed; // pixels a frame; speed downward
-		CSprite* sprite;    // owned
+		CSprite* sprite;     // owned
 	};
 	Stone stones[STONES] = {};
 	float wind           = 0; // pixels a frame

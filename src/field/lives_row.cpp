@@ -3,11 +3,11 @@
 
 #include "media/sprite.h"
 
-static const int DEPTH     = 18300;
-static const int A_ROW     = 5;
-static const int MIDDLE_X  = 709, MIDDLE_Y = 195; // of the first socket, pixels
-static const int PITCH_X   = 18, PITCH_Y = 16;
-static const int DELAY     = 2; // frames of play for each picture
+static const int DEPTH    = 18300;
+static const int A_ROW    = 5;
+static const int MIDDLE_X = 709, MIDDLE_Y = 195; // of the first socket, pixels
+static const int PITCH_X = 18, PITCH_Y = 16;
+static const int DELAY = 2; // frames of play for each picture
 
 CLivesRow::CLivesRow()
 {

@@ -3,8 +3,8 @@
 
 class CSprite;
 
-// Two rows of five sockets: nine bubbles, and a small one for ten or more. A bubble bursts when its ball goes and blows up
-// when it comes. Owned by the panel.
+// Two rows of five sockets: nine bubbles, and a small one for ten or more. A bubble bursts when its
+// ball goes and blows up when it comes. Owned by the panel.
 class CLivesRow
 {
 public:
@@ -12,7 +12,7 @@ public:
 
 	CLivesRow();
 	~CLivesRow();
-	CLivesRow(const CLivesRow&) = delete;
+	CLivesRow(const CLivesRow&)            = delete;
 	CLivesRow& operator=(const CLivesRow&) = delete;
 
 	void Step(int lives); // once a frame

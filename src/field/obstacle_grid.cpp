@@ -26,9 +26,15 @@ static int CellIndex(float offset, int cellSize, int count)
 	return index < static_cast<float>(count - 1) ? static_cast<int>(index) : count - 1;
 }
 
-int CObstacleGrid::Column(float x) { return CellIndex(x - LEFT, CELL_SIZE, COLUMNS); }
+int CObstacleGrid::Column(float x)
+{
+	return CellIndex(x - LEFT, CELL_SIZE, COLUMNS);
+}
 
-int CObstacleGrid::Row(float y) { return CellIndex(y - TOP, CELL_SIZE, ROWS); }
+int CObstacleGrid::Row(float y)
+{
+	return CellIndex(y - TOP, CELL_SIZE, ROWS);
+}
 
 CObstacleGrid::Range CObstacleGrid::CellsAround(float x, float y, float radius)
 {
@@ -44,7 +50,7 @@ void CObstacleGrid::Insert(ObstaclePoint* point)
 
 void CObstacleGrid::Remove(ObstaclePoint* point)
 {
-	std::vector<ObstaclePoint*>& cell = cells[point->cell];
+	std::vector<ObstaclePoint*>& cell           = cells[point->cell];
 	std::vector<ObstaclePoint*>::iterator found = std::find(cell.begin(), cell.end(), point);
 	*found = cell.back(); // the order inside a cell does not matter: answers are sorted
 	cell.pop_back();
@@ -82,9 +88,8 @@ void CObstacleGrid::Near(float x, float y, float radius, std::vector<ObstaclePoi
 			}
 		}
 	}
-	std::sort(found.begin(), found.end(), [](const ObstaclePoint* a, const ObstaclePoint* b) {
-		return a->order < b->order;
-	});
+	std::sort(found.begin(), found.end(),
+	          [](const ObstaclePoint* a, const ObstaclePoint* b) { return a->order < b->order; });
 }
 
 bool CObstacleGrid::AnyNear(float x, float y, float radius) const

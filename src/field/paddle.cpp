@@ -11,13 +11,13 @@
 
 #include <algorithm>
 
-static const int START_MOUSE_X     = -300; // off the field to the left
-static const int BUMPER_DX         = -29;  // pixels from the anchor
-static const int BUMPER_Y          = 505;
-static const int REST_SHIFT        = 2;  // pixels between the body's middle and a resting ball
-static const int SIGN_RISE         = 42; // pixels of the loaded sign above the body
-static const int LOST_BALL_CUT     = 45; // frames left of the lost-ball message after a launch
-static const int BUMP_STEPS        = 7;
+static const int START_MOUSE_X = -300; // off the field to the left
+static const int BUMPER_DX     = -29;  // pixels from the anchor
+static const int BUMPER_Y      = 505;
+static const int REST_SHIFT    = 2;  // pixels between the body's middle and a resting ball
+static const int SIGN_RISE     = 42; // pixels of the loaded sign above the body
+static const int LOST_BALL_CUT = 45; // frames left of the lost-ball message after a launch
+static const int BUMP_STEPS    = 7;
 
 // The bumper's lift in pixels at each step of a bump; at 0 it rests.
 static const int s_bumpLift[BUMP_STEPS + 1] = {0, 3, 4, 3, 0, -2, -1, 0};
@@ -26,10 +26,10 @@ CPaddle* g_paddle = nullptr;
 
 CPaddle::CPaddle() : parts(new Parts())
 {
-	g_paddle   = this;
-	shootable  = true;
-	body       = parts->sprites[PART_BODY];
-	ballOffset = static_cast<float>(REST_SHIFT - body->Width() / 2);
+	g_paddle      = this;
+	shootable     = true;
+	body          = parts->sprites[PART_BODY];
+	ballOffset    = static_cast<float>(REST_SHIFT - body->Width() / 2);
 	currentSprite = collisionSprite = body;
 	BuildOutline();
 	SetMouseX(START_MOUSE_X);
@@ -150,14 +150,32 @@ void CPaddle::UpdateLaunchPrompt()
 	parts->launchPrompt.Run();
 }
 
-void CPaddle::BecomeWide() { ChangeShape(BECOME_WIDE); }
+void CPaddle::BecomeWide()
+{
+	ChangeShape(BECOME_WIDE);
+}
 
-void CPaddle::EndWide() { ChangeShape(END_WIDE); }
+void CPaddle::EndWide()
+{
+	ChangeShape(END_WIDE);
+}
 
-void CPaddle::BecomeFlat() { ChangeShape(BECOME_FLAT); }
+void CPaddle::BecomeFlat()
+{
+	ChangeShape(BECOME_FLAT);
+}
 
-void CPaddle::EndFlat() { ChangeShape(END_FLAT); }
+void CPaddle::EndFlat()
+{
+	ChangeShape(END_FLAT);
+}
 
-void CPaddle::BecomeSticky() { ChangeShape(BECOME_STICKY); }
+void CPaddle::BecomeSticky()
+{
+	ChangeShape(BECOME_STICKY);
+}
 
-void CPaddle::EndSticky() { ChangeShape(END_STICKY); }
+void CPaddle::EndSticky()
+{
+	ChangeShape(END_STICKY);
+}

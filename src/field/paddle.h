@@ -21,10 +21,10 @@ enum FlameState { FLAME_OFF, FLAME_STARTING, FLAME_LOOPING, FLAME_GOING_OUT };
 class CPaddle : public CElementMove
 {
 public:
-	static constexpr int TOP              = 514;     // y of the body's upper edge
-	static constexpr int BALL_REST_Y      = 504;     // y of a held ball's centre after ResetBall
-	static constexpr int BODY_LEFT        = 10;      // the body's left edge is this far left of x
-	static constexpr int SHORT_STUN       = 30;      // frames
+	static constexpr int TOP              = 514;   // y of the body's upper edge
+	static constexpr int BALL_REST_Y      = 504;   // y of a held ball's centre after ResetBall
+	static constexpr int BODY_LEFT        = 10;    // the body's left edge is this far left of x
+	static constexpr int SHORT_STUN       = 30;    // frames
 	static constexpr float MEASURE_OFFSET = -1000; // asks the next update to measure ballOffset
 
 	CPaddle();
@@ -55,14 +55,14 @@ public:
 	bool FireDestructo(); // true when a ray was fired
 	void FanOn();
 	void FanOff();
-	void ResetBall();      // the launch preparation
+	void ResetBall();       // the launch preparation
 	void ClearSlowFlames(); // the paddle leaves with the fast flames
 
-	int anchorX   = 0;  // everything hangs on this x, pixels
-	int previousX = -1; // at the last update; -1 until the first
-	int target    = 0;
-	PaddleShape shape = SHAPE_NORMAL;
-	int ammo          = 0; // destructo shots left
+	int anchorX          = 0;  // everything hangs on this x, pixels
+	int previousX        = -1; // at the last update; -1 until the first
+	int target           = 0;
+	PaddleShape shape    = SHAPE_NORMAL;
+	int ammo             = 0; // destructo shots left
 	bool destructoLoaded = false;
 	float ballOffset     = 0; // of a held ball: ball x = anchorX - 10 - ballOffset
 	int grabGuard        = 1; // 1: the sticky bumper may not grab
@@ -70,11 +70,11 @@ public:
 	int stunFrames       = 0;
 	bool slowFlames      = true;
 	FlameState leftFlame = FLAME_OFF, rightFlame = FLAME_OFF;
-	int beamFrames = -1; // frames of the ray still to show
-	int bumperLift = 0;  // pixels; moves the bumper's picture, never its outline
-	int bumpStep   = 0;  // 0 at rest
+	int beamFrames  = -1; // frames of the ray still to show
+	int bumperLift  = 0;  // pixels; moves the bumper's picture, never its outline
+	int bumpStep    = 0;  // 0 at rest
 	int stillFrames = 0;
-	CSprite* body = nullptr; // one of the parts
+	CSprite* body   = nullptr; // one of the parts
 
 	struct Parts; // sprites, outline records and sounds; in paddle_parts.h
 	Parts* parts; // owned

@@ -5,11 +5,14 @@
 
 #include <cstdlib>
 
-static const int FAST_MOVE       = 40; // pixels in one frame; above it the flames are the fast ones
-static const int FLAME_HOLD      = 2;  // frames that a flame burns on without a push
-static const int WHEEL_HOLD      = 2;  // frames that the wheels turn on
+static const int FAST_MOVE  = 40; // pixels in one frame; above it the flames are the fast ones
+static const int FLAME_HOLD = 2;  // frames that a flame burns on without a push
+static const int WHEEL_HOLD = 2;  // frames that the wheels turn on
 
-FlameState& CPaddle::StateOf(int side) { return side == FLAME_LEFT ? leftFlame : rightFlame; }
+FlameState& CPaddle::StateOf(int side)
+{
+	return side == FLAME_LEFT ? leftFlame : rightFlame;
+}
 
 // Of the set that is in use.
 CSprite* CPaddle::ShownFlame(int side, int phase) const
@@ -17,7 +20,10 @@ CSprite* CPaddle::ShownFlame(int side, int phase) const
 	return parts->sprites[FlamePart(side, slowFlames ? FLAMES_SLOW : FLAMES_FAST, phase)];
 }
 
-void CPaddle::ClearSlowFlames() { slowFlames = false; }
+void CPaddle::ClearSlowFlames()
+{
+	slowFlames = false;
+}
 
 bool CPaddle::ShowsFastFlame() const
 {
@@ -50,8 +56,8 @@ void CPaddle::UpdateDrive()
 	} else {
 		bool goesLeft = anchorX < previousX;
 		SetTurning(sprites[PART_LEFT_WHEEL], sprites[PART_RIGHT_WHEEL], goesLeft ? -1 : 1);
-		stillFrames = 0;
-		int side    = goesLeft ? FLAME_RIGHT : FLAME_LEFT;
+		stillFrames                               = 0;
+		int side                                  = goesLeft ? FLAME_RIGHT : FLAME_LEFT;
 		parts->flameTimer[FLAME_SIDES - 1 - side] = FLAME_HOLD;
 		parts->flameTimer[side]                   = 0;
 		PushFlame(side);
@@ -128,9 +134,9 @@ void CPaddle::MatchFlames()
 		for (int phase = 0; phase < FLAME_PHASES; phase++) {
 			CSprite* wanted = ShownFlame(side, phase);
 			CSprite* twin =
-				parts->sprites[FlamePart(side, slowFlames ? FLAMES_FAST : FLAMES_SLOW, phase)];
-			CSprite* shown = twin->IsHidden() ? wanted : twin;
-			CSprite* other = twin->IsHidden() ? twin : wanted;
+			    parts->sprites[FlamePart(side, slowFlames ? FLAMES_FAST : FLAMES_SLOW, phase)];
+			CSprite* shown   = twin->IsHidden() ? wanted : twin;
+			CSprite* other   = twin->IsHidden() ? twin : wanted;
 			other->frame     = shown->frame;
 			other->tick      = shown->tick;
 			other->direction = shown->direction;

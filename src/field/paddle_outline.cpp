@@ -6,7 +6,7 @@
 static const float POINT_SPACING = 5; // pixels
 
 struct OutlineShape {
-	float firstX; // from the anchor
+	float firstX;         // from the anchor
 	std::vector<float> y; // below the paddle's top, one each POINT_SPACING
 };
 

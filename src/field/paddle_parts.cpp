@@ -6,13 +6,13 @@
 
 #include <string>
 
-static const int BUMPER_DEPTH  = 590;
-static const int RAY_DEPTH     = 588; // over the field, under the machine
-static const int SIGN_DEPTH    = 589;
-static const int PROMPT_DEPTH  = 25000;
+static const int BUMPER_DEPTH    = 590;
+static const int RAY_DEPTH       = 588; // over the field, under the machine
+static const int SIGN_DEPTH      = 589;
+static const int PROMPT_DEPTH    = 25000;
 static const int LAUNCH_PROMPT_X = 262, RAY_PROMPT_X = 221, PROMPT_Y = 463; // pixels
-static const int SIGN_DELAY    = 2; // frames a picture
-static const int NO_NUMBER     = -1;
+static const int SIGN_DELAY = 2;                                            // frames a picture
+static const int NO_NUMBER  = -1;
 
 struct PartRow {
 	PaddlePlace place;
@@ -72,7 +72,10 @@ static const char* const s_bumpers[BUMPERS][8] = {
 };
 // clang-format on
 
-PaddlePlace PlaceOfPart(int part) { return s_parts[part].place; }
+PaddlePlace PlaceOfPart(int part)
+{
+	return s_parts[part].place;
+}
 
 static CSprite* MakePart(const PartRow& row)
 {

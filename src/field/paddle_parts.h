@@ -1,4 +1,5 @@
-// What the paddle is made of: pictures, outline records, sounds. Only the paddle's own files use it.
+// What the paddle is made of: pictures, outline records, sounds. Only the paddle's own files use
+// it.
 #pragma once
 
 #include "field/paddle.h"
@@ -19,7 +20,7 @@ enum PaddlePart {
 	PART_RIGHT_FAN,
 	PART_LEFT_LIGHT,
 	PART_RIGHT_LIGHT,
-	PART_FLAMES, // by side, set and phase: FlamePart
+	PART_FLAMES,                                   // by side, set and phase: FlamePart
 	PART_PROFESSOR = PART_FLAMES + FLAME_PICTURES, // at rest
 	// his moves
 	MOVE_LEFT_SLOW,
@@ -56,11 +57,11 @@ enum Bumper {
 
 // Waits, then blinks, until it is started again.
 struct PaddlePrompt {
-	static constexpr int WAIT       = 300; // frames
-	static constexpr int SHOWN      = 24;
-	static constexpr int HIDDEN     = 8;
-	static constexpr int TIMER_ON   = -1;
-	static constexpr int TIMER_OFF  = -2;
+	static constexpr int WAIT      = 300; // frames
+	static constexpr int SHOWN     = 24;
+	static constexpr int HIDDEN    = 8;
+	static constexpr int TIMER_ON  = -1;
+	static constexpr int TIMER_OFF = -2;
 
 	void Restart() { timer = WAIT; }
 	void Run(); // one frame

@@ -13,13 +13,16 @@
 #include "sound/sound.h"
 #include "state/game_data.h"
 
-static const float FAN_Y        = 544; // pixels; where the wind comes from
-static const int FAN_FADE       = 15;  // frames
-static const int SHOTS          = 2;   // of a loaded destructo
-static const int RAY_FRAMES     = 2;
-static const int BLAST_RADIUS   = 5; // pixels
+static const float FAN_Y      = 544; // pixels; where the wind comes from
+static const int FAN_FADE     = 15;  // frames
+static const int SHOTS        = 2;   // of a loaded destructo
+static const int RAY_FRAMES   = 2;
+static const int BLAST_RADIUS = 5; // pixels
 
-int CPaddle::BodyCentre() const { return body->X() + body->Width() / 2; }
+int CPaddle::BodyCentre() const
+{
+	return body->X() + body->Width() / 2;
+}
 
 void CPaddle::FanOn()
 {
@@ -28,7 +31,10 @@ void CPaddle::FanOn()
 		g_levelGameData->NoteFan();
 }
 
-void CPaddle::FanOff() { fanOn = false; }
+void CPaddle::FanOff()
+{
+	fanOn = false;
+}
 
 void CPaddle::UpdateFan()
 {
@@ -54,7 +60,10 @@ void CPaddle::UpdateFan()
 		parts->fanSound->Play(true);
 }
 
-void CPaddle::SetBeamTop(int top) { parts->beamTop = top; }
+void CPaddle::SetBeamTop(int top)
+{
+	parts->beamTop = top;
+}
 
 void CPaddle::LoadDestructo()
 {

@@ -11,13 +11,13 @@
 
 static const int DEPTH          = 24500;
 static const int MIDDLE_X       = 346; // of the field
-static const int TROPHY_Y       = 170;
-static const int EXTRA_LIFE_Y   = 230;
+static const int TROPHY_Y       = 120;
+static const int EXTRA_LIFE_Y   = 195;
 static const int LOST_BALL_Y    = 300;
 static const int LINE_DISTANCE  = 20; // pixels from the sign's middle to each of its lines
 static const int ROW_GAP        = 6;  // pixels between the lower line and the number
-static const int GLEAMS         = 4; // times that a gleam runs over the trophy
-static const int GLEAM_FRAMES   = 8; // for each of its pictures
+static const int GLEAMS         = 4;  // times that a gleam runs over the trophy
+static const int GLEAM_FRAMES   = 8;  // for each of its pictures
 static const int GLEAM_PICTURES = 3;
 static const float SIGN_CURVE   = 3.0f;
 static const int SIGN_SWING     = 5;
@@ -70,7 +70,7 @@ void CTrophySign::Step()
 }
 
 CExtraLifeSign::CExtraLifeSign()
-	: sprite(NewSign("extraquorbletawarded.png")), sound(new CSound("extra_quorblet.ogg"))
+    : sprite(NewSign("extraquorbletawarded.png")), sound(new CSound("extra_quorblet.ogg"))
 {
 	bobber = new CBobber(EXTRA_LIFE_Y - sprite->Height() / 2, SIGN_SWING, SIGN_CURVE, SIGN_RISE, 0);
 }
@@ -96,7 +96,7 @@ void CExtraLifeSign::Step()
 }
 
 CLostBallSign::CLostBallSign()
-	: upperLine(NewSign("quorbletlost_A.png")), lowerLine(NewSign("quorbletlost_B.png"))
+    : upperLine(NewSign("quorbletlost_A.png")), lowerLine(NewSign("quorbletlost_B.png"))
 {
 	for (int digit = 0; digit < 10; digit++) {
 		std::string name = std::to_string(digit) + ".png";

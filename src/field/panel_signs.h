@@ -11,7 +11,7 @@ class CTrophySign
 public:
 	CTrophySign();
 	~CTrophySign();
-	CTrophySign(const CTrophySign&) = delete;
+	CTrophySign(const CTrophySign&)            = delete;
 	CTrophySign& operator=(const CTrophySign&) = delete;
 
 	void Restart();
@@ -29,7 +29,7 @@ public:
 
 	CExtraLifeSign();
 	~CExtraLifeSign();
-	CExtraLifeSign(const CExtraLifeSign&) = delete;
+	CExtraLifeSign(const CExtraLifeSign&)            = delete;
 	CExtraLifeSign& operator=(const CExtraLifeSign&) = delete;
 
 	void Step();
@@ -48,15 +48,15 @@ public:
 
 	CLostBallSign();
 	~CLostBallSign();
-	CLostBallSign(const CLostBallSign&) = delete;
+	CLostBallSign(const CLostBallSign&)            = delete;
 	CLostBallSign& operator=(const CLostBallSign&) = delete;
 
 	void Step();
 
 	CSprite* upperLine; // owned, as all below
 	CSprite* lowerLine;
-	CSprite* big[10];             // the number while it has one digit
-	CSprite* small[PLACES][10];   // and while it has two
+	CSprite* big[10];           // the number while it has one digit
+	CSprite* small[PLACES][10]; // and while it has two
 	CBobber* bobber;
 
 private:

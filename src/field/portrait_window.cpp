@@ -10,14 +10,14 @@
 
 static const int DEPTH_SWIRLS = 18500, DEPTH_PORTRAIT = 18510, DEPTH_EYES = 18520;
 static const int DEPTH_TEXT_BASE = 18530, DEPTH_NAME = 18540;
-static const int LAST_SWIRL     = 9;
-static const int TEXT_BASE_Y    = 359;
-static const int MIDDLE_X       = 745;
-static const int FIRST_NAME_Y   = 362, NAME_Y = 373;
-static const int WORD_GAP       = 1; // pixels between "the" and the species' word
-static const int BOB_ENDS       = 9;
-static const float BOB_SCALE    = 10, BOB_CURVE = 3, BOB_AMPLITUDE = 3.1f;
-static const int BLINK_SOONEST  = 4, BLINK_LATEST = 180, BLINK_FRAMES = 2;
+static const int LAST_SWIRL   = 9;
+static const int TEXT_BASE_Y  = 359;
+static const int MIDDLE_X     = 745;
+static const int FIRST_NAME_Y = 362, NAME_Y = 373;
+static const int WORD_GAP    = 1; // pixels between "the" and the species' word
+static const int BOB_ENDS    = 9;
+static const float BOB_SCALE = 10, BOB_CURVE = 3, BOB_AMPLITUDE = 3.1f;
+static const int BLINK_SOONEST = 4, BLINK_LATEST = 180, BLINK_FRAMES = 2;
 
 static CSprite* NewHidden(int depth, const std::string& name)
 {
@@ -90,7 +90,7 @@ void CPortraitWindow::ShowPortrait(int newNumber)
 		firstName = Rand() % FIRST_NAMES;
 		if (!firstNames[firstName])
 			firstNames[firstName] =
-				NewHidden(DEPTH_NAME, "sidebarname" + std::to_string(firstName) + ".png");
+			    NewHidden(DEPTH_NAME, "sidebarname" + std::to_string(firstName) + ".png");
 		firstNames[firstName]->Show();
 		nameThe->Show();
 	}

@@ -13,7 +13,7 @@ public:
 
 	CPortraitWindow();
 	~CPortraitWindow();
-	CPortraitWindow(const CPortraitWindow&) = delete;
+	CPortraitWindow(const CPortraitWindow&)            = delete;
 	CPortraitWindow& operator=(const CPortraitWindow&) = delete;
 
 	void ShowPortrait(int newNumber); // 0 to 65, others do nothing; draws a first name

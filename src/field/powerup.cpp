@@ -17,34 +17,34 @@
 #include <cmath>
 #include <string>
 
-static const int HANG_X          = 20; // pixels from the place given to the balloons' corner
-static const int HANG_Y          = 35;
-static const float START_VX      = -0.93f; // pixels per frame
-static const float SWAY_STEP     = 0.04f;
-static const float FALL_SPEED    = 2;
-static const float GRAVITY       = 0.5f;
-static const int LOST_Y          = 600; // pixels
-static const float BLOW_PUSH     = 2.5f;
-static const int INFLATE_DEPTH   = 70; // nearer than the balloons
-static const int ROPE            = 2;  // pixels of the carried thing inside the balloons' picture
-static const int ICON_X          = 6;  // pixels on the disc
-static const int ICON_Y          = 5;
-static const int SPARKLE_X_BAG   = 15;
-static const int SPARKLE_X_DISC  = 16;
-static const int SPARKLE_Y       = 14;
-static const int CATCH_TOP       = 525; // pixels; where the lower edge is caught
-static const int CATCH_BOTTOM    = 594;
-static const int CATCH_WIDTH     = 86; // pixels from the paddle's anchor
-static const int BARRIER_X       = 41; // pixels from the paddle's anchor
-static const int RAIN_OBJECTS    = 30;
-static const int BALLOON_DELAY   = 2; // frames a picture
-static const int ICON_DELAY      = 2;
+static const int HANG_X         = 20; // pixels from the place given to the balloons' corner
+static const int HANG_Y         = 35;
+static const float START_VX     = -0.93f; // pixels per frame
+static const float SWAY_STEP    = 0.04f;
+static const float FALL_SPEED   = 2;
+static const float GRAVITY      = 0.5f;
+static const int LOST_Y         = 600; // pixels
+static const float BLOW_PUSH    = 2.5f;
+static const int INFLATE_DEPTH  = 70; // nearer than the balloons
+static const int ROPE           = 2;  // pixels of the carried thing inside the balloons' picture
+static const int ICON_X         = 6;  // pixels on the disc
+static const int ICON_Y         = 5;
+static const int SPARKLE_X_BAG  = 15;
+static const int SPARKLE_X_DISC = 16;
+static const int SPARKLE_Y      = 14;
+static const int CATCH_TOP      = 525; // pixels; where the lower edge is caught
+static const int CATCH_BOTTOM   = 594;
+static const int CATCH_WIDTH    = 86; // pixels from the paddle's anchor
+static const int BARRIER_X      = 41; // pixels from the paddle's anchor
+static const int RAIN_OBJECTS   = 30;
+static const int BALLOON_DELAY  = 2; // frames a picture
+static const int ICON_DELAY     = 2;
 
 struct PowerupRow {
 	int kind;
-	const char* icon;       // stem
-	int lastFrame;          // -1 for one picture without a number
-	const char* sparkle;    // stem
+	const char* icon;    // stem
+	int lastFrame;       // -1 for one picture without a number
+	const char* sparkle; // stem
 };
 
 // clang-format off
@@ -73,7 +73,7 @@ static const PowerupRow s_powerups[] = {
 std::vector<CPowerup*> CPowerup::PowerupList;
 
 CPowerup::CPowerup(int newX, int newY, int newKind, bool, int newZ)
-	: kind(newKind == POWERUP_RANDOM ? LevelGameData()->PickPowerup() : newKind)
+    : kind(newKind == POWERUP_RANDOM ? LevelGameData()->PickPowerup() : newKind)
 {
 	PowerupList.push_back(this);
 	x  = static_cast<float>(newX - HANG_X);
@@ -81,8 +81,7 @@ CPowerup::CPowerup(int newX, int newY, int newKind, bool, int newZ)
 	z  = static_cast<float>(newZ);
 	vx = START_VX;
 	LoadSprites();
-	catchSound =
-		new CSound(kind == POWERUP_MONEY ? "collect_moneybag.ogg" : "collect_powerup.ogg");
+	catchSound = new CSound(kind == POWERUP_MONEY ? "collect_moneybag.ogg" : "collect_powerup.ogg");
 	balloonSound = new CSound("ballons.ogg");
 	// The prizes that a level is built with come up in silence.
 	if (g_game && g_game->elapsed > FRAMES_A_SECOND)

@@ -3,7 +3,10 @@
 
 #include "media/sprite.h"
 
-static bool IsPlaying(const CSprite* sprite) { return !sprite->IsHidden() && !sprite->IsStopped(); }
+static bool IsPlaying(const CSprite* sprite)
+{
+	return !sprite->IsHidden() && !sprite->IsStopped();
+}
 
 void CPaddle::ShowMove(int move, int frame)
 {
@@ -47,9 +50,9 @@ bool CPaddle::ShowTurn(int flameSet)
 void CPaddle::ShowDrive(int side)
 {
 	bool right = side == FLAME_LEFT; // the left flame pushes to the right
-	int fast = right ? MOVE_RIGHT_FAST : MOVE_LEFT_FAST;
-	int slow = right ? MOVE_RIGHT_SLOW : MOVE_LEFT_SLOW;
-	int last = parts->sprites[fast]->FrameCount() - 1;
+	int fast   = right ? MOVE_RIGHT_FAST : MOVE_LEFT_FAST;
+	int slow   = right ? MOVE_RIGHT_SLOW : MOVE_LEFT_SLOW;
+	int last   = parts->sprites[fast]->FrameCount() - 1;
 
 	const CSprite* fastStart = parts->sprites[FlamePart(side, FLAMES_FAST, PHASE_START)];
 	const CSprite* slowStart = parts->sprites[FlamePart(side, FLAMES_SLOW, PHASE_START)];

@@ -6,10 +6,10 @@
 #include "media/sprite.h"
 #include "sound/sound.h"
 
-static const int STREAK_DEPTH   = 9500;
-static const float GRAVITY      = 1.0f / 3; // pixels a frame, a frame
-static const float START_SPEED  = 10;
-static const int SPLASH_FRAMES  = 4;
+static const int STREAK_DEPTH  = 9500;
+static const float GRAVITY     = 1.0f / 3; // pixels a frame, a frame
+static const float START_SPEED = 10;
+static const int SPLASH_FRAMES = 4;
 
 CRain::~CRain()
 {

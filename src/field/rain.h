@@ -13,7 +13,7 @@ public:
 
 	CRain() = default;
 	~CRain();
-	CRain(const CRain&) = delete;
+	CRain(const CRain&)            = delete;
 	CRain& operator=(const CRain&) = delete;
 
 	void LoadThunder();
@@ -22,16 +22,16 @@ public:
 	void Hide();
 
 	struct Drop {
-		float x, y;       // place on the ground, pixels
-		float height;     // above it
-		float dx, dy;     // pixels a frame
-		float speed;      // downward, pixels a frame
-		CSprite* streak;  // owned
-		CSprite* splash;  // owned
+		float x, y;      // place on the ground, pixels
+		float height;    // above it
+		float dx, dy;    // pixels a frame
+		float speed;     // downward, pixels a frame
+		CSprite* streak; // owned
+		CSprite* splash; // owned
 	};
-	Drop drops[DROPS] = {};
+	Drop drops[DROPS]  = {};
 	int lightningTimer = -100, thunderTimer = -1; // frames
-	CSound* thunderSounds[2] = {}; // owned; null with the effects off
+	CSound* thunderSounds[2] = {};                // owned; null with the effects off
 	bool made                = false;
 
 private:

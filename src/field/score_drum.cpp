@@ -10,7 +10,7 @@ static const int PITCH        = 13;  // pixels from digit to digit
 static const int STRIP_PERIOD = 200; // ten digits
 
 CScoreDrum::CScoreDrum(const char* strip, int newDigits, int x, int y)
-	: digits(std::min(newDigits, MOST_DIGITS))
+    : digits(std::min(newDigits, MOST_DIGITS))
 {
 	for (int i = 0; i < digits; i++) {
 		sprites[i] = new CSprite(x + i * PITCH, y, DEPTH, SPRITE_OVERLAY);

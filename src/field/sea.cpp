@@ -64,7 +64,10 @@ void CWaves::Step()
 	}
 }
 
-CRainbow::~CRainbow() { delete sprite; }
+CRainbow::~CRainbow()
+{
+	delete sprite;
+}
 
 void CRainbow::Make()
 {

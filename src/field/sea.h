@@ -14,7 +14,7 @@ public:
 
 	CWaves() = default;
 	~CWaves();
-	CWaves(const CWaves&) = delete;
+	CWaves(const CWaves&)            = delete;
 	CWaves& operator=(const CWaves&) = delete;
 
 	void Make(int image); // paints the still part into the image, and makes the bands
@@ -30,7 +30,7 @@ class CRainbow
 public:
 	CRainbow() = default;
 	~CRainbow();
-	CRainbow(const CRainbow&) = delete;
+	CRainbow(const CRainbow&)            = delete;
 	CRainbow& operator=(const CRainbow&) = delete;
 
 	void Make();

@@ -12,15 +12,15 @@
 #include <algorithm>
 #include <cmath>
 
-static const int HOLD_FRAMES       = 30;
-static const int FIELD_BOTTOM      = 600; // pixels
-static const int FAN_FULL          = 1000;
-static const int FAN_REFILL        = 2;  // charge per frame
-static const int FAN_COST          = 17; // charge per frame
-static const int UNLIMITED_FANS    = 999999; // frames
-static const int STUCK_FRAMES      = 30;     // from sample to sample
-static const float STUCK_DISTANCE  = 60;     // pixels
-static const int STUCK_STRIKES     = 15;
+static const int HOLD_FRAMES      = 30;
+static const int FIELD_BOTTOM     = 600; // pixels
+static const int FAN_FULL         = 1000;
+static const int FAN_REFILL       = 2;      // charge per frame
+static const int FAN_COST         = 17;     // charge per frame
+static const int UNLIMITED_FANS   = 999999; // frames
+static const int STUCK_FRAMES     = 30;     // from sample to sample
+static const float STUCK_DISTANCE = 60;     // pixels
+static const int STUCK_STRIKES    = 15;
 
 PlayCounters g_play;
 CSidebar* g_sidebar = nullptr;

@@ -8,9 +8,9 @@
 class CBobber;
 class CSound;
 
-const int POWERUP_TIMERS    = 16;
-const int LIVES_AT_START    = 4;
-const int UNTIL_USED_UP     = 1000000; // frames: a timer that ends otherwise
+const int POWERUP_TIMERS = 16;
+const int LIVES_AT_START = 4;
+const int UNTIL_USED_UP  = 1000000; // frames: a timer that ends otherwise
 
 enum PowerupTimer {
 	TIMER_DOUBLE,
@@ -34,15 +34,15 @@ enum PowerupTimer {
 // Counters of the play that survive from level to level within a run. The profile's file stores
 // money, lives and the spare counter from here.
 struct PlayCounters {
-	int lives            = LIVES_AT_START; // balls left besides the one in play
-	bool gameOver        = false;
-	int readyTimer       = -1; // frames left of the lost-ball message
-	int extraLifeTimer   = -1; // frames left of the extra-life message
-	int levelScore       = 0;
-	int money            = 0;
-	int animalsSaved     = 0;
-	int animalsToRescue  = 0;
-	int spareCounter     = 0;
+	int lives           = LIVES_AT_START; // balls left besides the one in play
+	bool gameOver       = false;
+	int readyTimer      = -1; // frames left of the lost-ball message
+	int extraLifeTimer  = -1; // frames left of the extra-life message
+	int levelScore      = 0;
+	int money           = 0;
+	int animalsSaved    = 0;
+	int animalsToRescue = 0;
+	int spareCounter    = 0;
 };
 
 extern PlayCounters g_play;
@@ -87,17 +87,17 @@ public:
 	void GiveExtraLife(); // one more, with its message
 
 	int timers[POWERUP_TIMERS] = {}; // frames left, 0 when off
-	int comboCount  = 0;             // animals since the last touch of paddle or barrier
-	bool fanHeld    = false;
-	bool fanRunning = false;
-	int fanCharge   = 1000; // 0 to 1000
-	bool bonusLevel = false;
-	bool alienCaught = false; // read and cleared by the level runner
-	std::deque<int> portraitQueue; // portrait numbers waiting for the door
-	std::deque<int> powerupQueue;  // timer indices waiting for the door
+	int comboCount             = 0;  // animals since the last touch of paddle or barrier
+	bool fanHeld               = false;
+	bool fanRunning            = false;
+	int fanCharge              = 1000; // 0 to 1000
+	bool bonusLevel            = false;
+	bool alienCaught           = false; // read and cleared by the level runner
+	std::deque<int> portraitQueue;      // portrait numbers waiting for the door
+	std::deque<int> powerupQueue;       // timer indices waiting for the door
 
 	int portraitHold = 0, powerupHold = 0; // frames that what shows still stays
-	bool firstFrame  = true;
+	bool firstFrame = true;
 	int stuckClock = -1, stuckStrikes = 0; // the clock in frames, -1 before the first sample
 	float stuckX = 0, stuckY = 0;          // the ball at the last sample
 

@@ -15,7 +15,7 @@ static const int RUBBER_X[2]  = {729, 745};
 static const int MAIN_X[2]    = {698, 745};
 static const int HANDLE_X[2]  = {717, 745};
 static const int HANDLE_BELOW = 19, BOTH_BELOW = 16; // pixels below the door's top
-static const int LAST_TURN    = 23;
+static const int LAST_TURN = 23;
 static const int LEFT_EDGE = 693, RIGHT_EDGE = 797; // nothing of a door shows beyond
 
 static CSprite* NewHalf(int depth, const char* part, int side)

@@ -13,7 +13,7 @@ public:
 
 	explicit CPanelDoor(int newY); // closed; pixels
 	~CPanelDoor();
-	CPanelDoor(const CPanelDoor&) = delete;
+	CPanelDoor(const CPanelDoor&)            = delete;
 	CPanelDoor& operator=(const CPanelDoor&) = delete;
 
 	void AskToOpen();
@@ -27,8 +27,8 @@ public:
 
 	int y;
 	bool opening = false, closing = false, open = false;
-	bool opensAgain = false; // once it has closed
-	bool justShut   = false; // has closed to open again
+	bool opensAgain   = false;                             // once it has closed
+	bool justShut     = false;                             // has closed to open again
 	float rubberSlide = 0, mainSlide = 0, handleSlide = 0; // 0 to WIDEST
 
 	// sprites, owned: left, right

@@ -6,7 +6,7 @@
 
 #include <string>
 
-static const int PANEL_X = 686;
+static const int PANEL_X     = 686;
 static const int DEPTH_PANEL = 18000, DEPTH_SCORE_GLOW = 18050;
 static const int GLOW_X = 684, GLOW_Y = 25, LAST_GLOW = 8;
 static const int DIGITS_X = 700, SCORE_Y = 40, MONEY_Y = 101, SAVED_Y = 162;
@@ -14,11 +14,11 @@ static const int TO_RESCUE_Y = 431, TO_RESCUE_DIGITS = 2;
 static const int DOOR_Y = 297, DOOR_DISTANCE = 197;
 
 CSidebar::Panel::Panel()
-	: score("sidebarnumbersA.png", CScoreDrum::MOST_DIGITS, DIGITS_X, SCORE_Y),
-	  money("sidebarnumbersB.png", CScoreDrum::MOST_DIGITS, DIGITS_X, MONEY_Y),
-	  animalsSaved("sidebarnumbersA.png", CScoreDrum::MOST_DIGITS, DIGITS_X, SAVED_Y),
-	  animalsToRescue("sidebarnumbersA.png", TO_RESCUE_DIGITS, DIGITS_X, TO_RESCUE_Y),
-	  portraitDoor(DOOR_Y), discDoor(DOOR_Y + DOOR_DISTANCE)
+    : score("sidebarnumbersA.png", CScoreDrum::MOST_DIGITS, DIGITS_X, SCORE_Y),
+      money("sidebarnumbersB.png", CScoreDrum::MOST_DIGITS, DIGITS_X, MONEY_Y),
+      animalsSaved("sidebarnumbersA.png", CScoreDrum::MOST_DIGITS, DIGITS_X, SAVED_Y),
+      animalsToRescue("sidebarnumbersA.png", TO_RESCUE_DIGITS, DIGITS_X, TO_RESCUE_Y),
+      portraitDoor(DOOR_Y), discDoor(DOOR_Y + DOOR_DISTANCE)
 {
 	background = new CSprite(PANEL_X, 0, DEPTH_PANEL, SPRITE_OVERLAY);
 	background->AddFile("sidebarmain.png");

@@ -7,13 +7,13 @@
 #include <algorithm>
 #include <cmath>
 
-static const int SNOW_DEPTH   = 9500;
-static const float HALF_TURN  = 3.14159f; // radians
-static const float MOST_SWAY  = 0.2f;     // radians a frame
-static const float SWAY_PULL  = 0.015f;
-static const float CURVE      = 20; // pixels to each side
-static const float FAN_FORCE  = 1600000;
-static const float FAN_CLOSE  = 25; // pixels: nearer the push does not grow
+static const int SNOW_DEPTH    = 9500;
+static const float HALF_TURN   = 3.14159f; // radians
+static const float MOST_SWAY   = 0.2f;     // radians a frame
+static const float SWAY_PULL   = 0.015f;
+static const float CURVE       = 20; // pixels to each side
+static const float FAN_FORCE   = 1600000;
+static const float FAN_CLOSE   = 25; // pixels: nearer the push does not grow
 static const float FAN_FALLOFF = 2.5f;
 
 CSnow::~CSnow()

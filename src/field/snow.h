@@ -11,7 +11,7 @@ public:
 
 	CSnow() = default;
 	~CSnow();
-	CSnow(const CSnow&) = delete;
+	CSnow(const CSnow&)            = delete;
 	CSnow& operator=(const CSnow&) = delete;
 
 	void Make();
@@ -20,10 +20,10 @@ public:
 	void BlowFrom(float fromX, float fromY); // one frame of the fan's push
 
 	struct Flake {
-		float x, y, height; // place on the ground and height above it, pixels
+		float x, y, height;          // place on the ground and height above it, pixels
 		float sway, swayPull, phase; // of the curve, radians
-		float dy, fall;     // pixels a frame
-		CSprite* sprite;    // owned
+		float dy, fall;              // pixels a frame
+		CSprite* sprite;             // owned
 	};
 	Flake flakes[FLAKES] = {};
 	float drift          = 0; // pixels a frame

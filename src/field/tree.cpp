@@ -12,21 +12,21 @@
 
 #include <cmath>
 
-static const int FOREGROUND_Y      = 600; // from here down a tree is only a picture in front
-static const int HIT_PAUSE         = 3;   // frames
-static const int MOST_POWERUPS     = 5;
-static const int MOST_FRUIT        = 100;
-static const float HIT_RADIUS      = 1.2f, HIT_SPEED = 0.9f; // pixels, radians a frame
-static const float WIND_SPEED      = 0.15f, BLAST_SPEED = 0.4f;
-static const float PINE_RADIUS     = 0.5f, CROWN_RADIUS = 1.5f;
-static const float TURN            = 6.28318f;
-static const float HALF_TURN       = 3.14159f;
-static const float TURN_MARGIN     = 0.01f;
-static const int FRUIT_LIFT        = 30; // pixels above its place, at least
-static const int CLIMB_LEFT        = 29, CLIMB_RIGHT = 664; // limits of a crown that can be climbed
-static const int CLIMB_TOP         = 29, CLIMB_BOTTOM = 471;
-static const int SEAT              = 9; // pixels from the crown sprite's top to a climber's feet
-static const int PINE_SEAT         = 15;
+static const int FOREGROUND_Y  = 600; // from here down a tree is only a picture in front
+static const int HIT_PAUSE     = 3;   // frames
+static const int MOST_POWERUPS = 5;
+static const int MOST_FRUIT    = 100;
+static const float HIT_RADIUS = 1.2f, HIT_SPEED = 0.9f; // pixels, radians a frame
+static const float WIND_SPEED = 0.15f, BLAST_SPEED = 0.4f;
+static const float PINE_RADIUS = 0.5f, CROWN_RADIUS = 1.5f;
+static const float TURN        = 6.28318f;
+static const float HALF_TURN   = 3.14159f;
+static const float TURN_MARGIN = 0.01f;
+static const int FRUIT_LIFT    = 30;                 // pixels above its place, at least
+static const int CLIMB_LEFT = 29, CLIMB_RIGHT = 664; // limits of a crown that can be climbed
+static const int CLIMB_TOP = 29, CLIMB_BOTTOM = 471;
+static const int SEAT      = 9; // pixels from the crown sprite's top to a climber's feet
+static const int PINE_SEAT = 15;
 
 std::vector<CTree*> CTree::TreeList;
 
@@ -83,14 +83,14 @@ CSprite* CTree::AddFoliage(const std::string& picture, int depth)
 void CTree::GrowBroadleaf()
 {
 	const TrunkShape& shape   = TrunkShapeOf(kind, size, variant);
-	const ClumpPlaces& clumps = ClumpPlacesOf(size);
+	const ClumpPlaces& clumps = ClumpPlacesOf(size, variant);
 	const char* word = kind == TREE_GREEN ? "green" : kind == TREE_ORANGE ? "orange" : "red";
 	for (int i = 0; i < clumps.count; i++) {
 		std::string letter(1, static_cast<char>('A' + Rand() % 3));
 		CSprite* sprite = AddFoliage(std::string("leaves") + word + letter + ".png",
 		                             baseY + (i == crownIndex ? 3 : 1));
 		// whichever sprite is the crown takes the first place
-		int place               = i == crownIndex ? 0 : i == 0 ? crownIndex : i;
+		int place              = i == crownIndex ? 0 : i == 0 ? crownIndex : i;
 		const OutlinePoint& at = clumps.places[place];
 		foliage[i].x           = shape.crownX + at.x - sprite->Width() / 2;
 		foliage[i].y           = shape.crownY + at.y - sprite->Height() / 2;
@@ -107,7 +107,7 @@ void CTree::GrowPine()
 		                                 std::to_string(i) + ".png",
 		                             baseY + PINE_TIERS - i + (i == crownIndex ? 3 : 1));
 		foliage[i].x    = middle - sprite->Width() / 2;
-		foliage[i].y    = pine.firstY + i * pine.step;
+		foliage[i].y    = pine.tierY[i];
 	}
 }
 
@@ -245,10 +245,10 @@ static void MoveToAngle(CTree::Foliage& leaf)
 // The circle passes through the home place. The margin keeps the start from counting as the end.
 void CTree::Swivel(Foliage& leaf, float radius, float speed)
 {
-	Swing& swing     = leaf.swing;
-	swing.done       = false;
-	swing.radius     = RandomRange(radius / 2, radius);
-	swing.step       = RandomRange(speed * 2 / 3, speed * 4 / 3);
+	Swing& swing = leaf.swing;
+	swing.done   = false;
+	swing.radius = RandomRange(radius / 2, radius);
+	swing.step   = RandomRange(speed * 2 / 3, speed * 4 / 3);
 	if (!Coin())
 		swing.step = -swing.step;
 	swing.homeX      = leaf.x;
@@ -320,7 +320,10 @@ void CTree::SetBonusLevel()
 		tree->noDrops = true;
 }
 
-void CTree::SetClimber(CElementAnimal* animal) { climber = animal; }
+void CTree::SetClimber(CElementAnimal* animal)
+{
+	climber = animal;
+}
 
 int CTree::CrownX() const
 {
@@ -328,9 +331,15 @@ int CTree::CrownX() const
 	return static_cast<int>(x) + static_cast<int>(crown.x) + crown.sprite->Width() / 2;
 }
 
-int CTree::TrunkTopY() const { return trunk->Y(); }
+int CTree::TrunkTopY() const
+{
+	return trunk->Y();
+}
 
-int CTree::TrunkBaseY() const { return static_cast<int>(y) + trunk->Height(); }
+int CTree::TrunkBaseY() const
+{
+	return static_cast<int>(y) + trunk->Height();
+}
 
 int CTree::CrownZ() const
 {
@@ -338,7 +347,10 @@ int CTree::CrownZ() const
 	return TrunkBaseY() - (crownTop + (kind == TREE_PINE ? PINE_SEAT : SEAT));
 }
 
-int CTree::CrownDepth() const { return foliage[crownIndex].sprite->Depth() - 1; }
+int CTree::CrownDepth() const
+{
+	return foliage[crownIndex].sprite->Depth() - 1;
+}
 
 CTree* CTree::FreeTreeAt(float atX, float atY, float toleranceX, float toleranceY)
 {

@@ -28,10 +28,10 @@ public:
 	// frame. Only with the effects option on.
 	void Shake(float radius, float speed);
 
-	static void SwayStep();      // once a frame
-	static void WindStep();      // while the fan blows
-	static void BlastAll();      // the destructo ray
-	static void SetBonusLevel(); // no drops from any tree
+	static void SwayStep();              // once a frame
+	static void WindStep();              // while the fan blows
+	static void BlastAll();              // the destructo ray
+	static void SetBonusLevel();         // no drops from any tree
 	static std::vector<CTree*> TreeList; // in order of creation
 
 	// For climbers.
@@ -55,10 +55,10 @@ public:
 
 	int kind, size, variant;
 	int baseY;
-	CSprite* trunk = nullptr; // owned
+	CSprite* trunk          = nullptr; // owned
 	CElementAnimal* climber = nullptr; // not owned; at most one
 	int powerupsGiven = 0, fruitThrown = 0;
-	bool noDrops = false;
+	bool noDrops     = false;
 	int foliageCount = 0;
 	Foliage foliage[MOST_FOLIAGE];
 	int crownIndex = 0;

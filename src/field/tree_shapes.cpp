@@ -9,13 +9,13 @@
 // clang-format off
 static const TrunkShape PALMS[] = {
 	// picture          shift      outline                                    trunk's end
-	{"trunkpalmA.png",  16, 188, {{2, 188}, {16, 189}, {30, 188}, {16, 187}},   54, 6, 0},
-	{"trunkpalmB.png",  68, 175, {{52, 175}, {67, 176}, {83, 175}, {68, 174}},  16, 6, 0},
-	{"trunkpalmC.png",  26, 182, {{15, 182}, {26, 183}, {37, 182}, {26, 181}},  30, 6, 0},
-	{"trunkpalmD.png",  16, 164, {{2, 164}, {17, 165}, {32, 164}, {17, 163}},   78, 6, 0},
-	{"trunkpalmE.png",  17, 155, {{7, 155}, {17, 156}, {28, 155}, {18, 154}},   38, 5, 0},
+	{"trunkpalmA.png",  16, 188, {{2, 188}, {16, 189}, {30, 188}, {16, 187}},   48, 6, 0},
+	{"trunkpalmB.png",  68, 175, {{52, 175}, {67, 176}, {83, 175}, {68, 174}},  14, 6, 0},
+	{"trunkpalmC.png",  26, 182, {{15, 182}, {26, 183}, {37, 182}, {26, 181}},  11, 6, 0},
+	{"trunkpalmD.png",  16, 164, {{2, 164}, {17, 165}, {32, 164}, {17, 163}},   76, 6, 0},
+	{"trunkpalmE.png",  17, 155, {{7, 155}, {17, 156}, {28, 155}, {18, 154}},   37, 5, 0},
 	{"trunkpalmF.png",  33, 147, {{20, 147}, {30, 148}, {41, 147}, {31, 146}},  16, 5, 0},
-	{"trunkpalmG.png",  15, 125, {{8, 125}, {16, 126}, {24, 124}, {16, 125}},   20, 5, 0},
+	{"trunkpalmG.png",  15, 125, {{8, 125}, {16, 126}, {24, 124}, {16, 125}},   12, 5, 0},
 };
 static const TrunkShape PINE_BIG =
 	{"treetrunkpinebig.png",      10, 46, {{1, 46}, {10, 47}, {18, 46}, {9, 45}}, 10, 0, 0};
@@ -28,17 +28,17 @@ static const TrunkShape PINE_SMALLEST =
 
 static const TrunkShape BROAD_BIG[] = {
 	// picture             shift     outline                                 crown      index
-	{"treetrunkbigA.png",   52, 95, {{38, 95}, {42, 96}, {65, 95}, {42, 94}}, 42, -6,  3},
-	{"treetrunkbigB.png",   66, 95, {{52, 93}, {67, 94}, {79, 93}, {67, 92}}, 66, -6,  0},
-	{"treetrunkbigC.png",   70, 97, {{56, 97}, {70, 98}, {84, 97}, {70, 96}}, 70, -6,  1},
+	{"treetrunkbigA.png",   52, 95, {{38, 95}, {42, 96}, {65, 95}, {42, 94}}, 42, 10, 3},
+	{"treetrunkbigB.png",   66, 95, {{52, 93}, {67, 94}, {79, 93}, {67, 92}}, 66, 8,  0},
+	{"treetrunkbigC.png",   70, 97, {{56, 97}, {70, 98}, {84, 97}, {70, 96}}, 70, 10, 1},
 };
 static const TrunkShape BROAD_THIN[] = {
-	{"treetrunkthinA.png",  13, 80, {{9, 79}, {14, 80}, {18, 79}, {13, 78}},  10, 2,   0},
-	{"treetrunkthinB.png",  13, 80, {{8, 81}, {13, 82}, {18, 81}, {13, 80}},  10, 2,   0},
+	{"treetrunkthinA.png",  13, 80, {{9, 79}, {14, 80}, {18, 79}, {13, 78}},  9, 14,  0},
+	{"treetrunkthinB.png",  13, 80, {{8, 81}, {13, 82}, {18, 81}, {13, 80}},  9, 14,  0},
 };
 static const TrunkShape BROAD_SMALL[] = {
-	{"treetrunksmallA.png", 43, 68, {{36, 68}, {45, 69}, {55, 68}, {44, 67}}, 44, -10, 0},
-	{"treetrunksmallB.png", 45, 69, {{37, 70}, {47, 71}, {57, 70}, {47, 69}}, 41, -10, 0},
+	{"treetrunksmallA.png", 43, 68, {{36, 68}, {45, 69}, {55, 68}, {44, 67}}, 44, 8,  0},
+	{"treetrunksmallB.png", 45, 69, {{37, 70}, {47, 71}, {57, 70}, {47, 69}}, 41, 8,  0},
 };
 
 static const FruitZone ZONE_BROAD_BIG_A   = {-12, 40,   8, 25, -85, 65, -30, 10, 80};
@@ -55,26 +55,42 @@ static const PalmFruitRange PALM_FRUIT[] = {
 	{32, 52}, {-2, 18}, {-5, 15}, {60, 80}, {24, 40}, {3, 17}, {-1, 13},
 };
 
-// The first is the place of the crown sprite, in front of all others.
-static const OutlinePoint CLUMPS_BIG[] = {
-	{  0, 16}, {-30, 30}, { 31, 30}, { -2, 33}, {-52, 22}, { 52, 23}, {-58,   3}, { 58,   4},
-	{-28,  6}, { 29,  5}, {-43, -17}, { 44, -16}, {-14, -10}, { 15, -11}, {-20, -32}, { 20, -31},
+// The first is the place of the crown sprite, in front of all others. Of the others the later ones
+// lie over the earlier ones, so the lower clumps come first.
+static const OutlinePoint CLUMPS_BIG_A[] = {
+	{-6, 16}, {-34, 31}, {6, 38}, {34, 34}, {59, 18}, {-59, 12}, {30, 12}, {-36, 15},
+	{52, -8}, {-49, -12}, {8, -4}, {-20, -8}, {36, -25}, {-36, -29}, {17, -36}, {-9, -33},
 };
-static const OutlinePoint CLUMPS_SMALL[] = {
-	{  0, 11}, {-27, 17}, { 28, 16}, {1, 20}, {-34, 1}, { 34, 0}, {-14, -2}, { 15, -3},
-	{-17, -19}, { 17, -20},
+static const OutlinePoint CLUMPS_BIG_B[] = {
+	{6, 17}, {-36, 32}, {32, 36}, {-4, 37}, {60, 18}, {-60, 19}, {36, 13}, {-30, 15},
+	{52, -7}, {-55, -5}, {20, -9}, {-20, -6}, {34, -28}, {-38, -24}, {10, -36}, {-14, -33},
 };
-static const OutlinePoint CLUMPS_THIN[] = {
-	{  0,  9}, {-10, 16}, { 10, 15}, {1, 20}, {-11, 2}, { 12, 0}, {-6, -12}, { 6, -14},
+static const OutlinePoint CLUMPS_BIG_C[] = {
+	{-8, 15}, {-42, 29}, {40, 32}, {0, 36}, {63, 14}, {-63, 10}, {34, 10}, {-36, 13},
+	{54, -11}, {-52, -13}, {22, -8}, {-22, -11}, {40, -30}, {-36, -31}, {14, -27}, {-12, -36},
 };
-static const ClumpPlaces PLACES_BIG   = {16, CLUMPS_BIG};
-static const ClumpPlaces PLACES_SMALL = {10, CLUMPS_SMALL};
-static const ClumpPlaces PLACES_THIN  = { 8, CLUMPS_THIN};
+static const OutlinePoint CLUMPS_SMALL_A[] = {
+	{-4, 13}, {21, 24}, {-22, 22}, {36, 9}, {-36, 6}, {15, 3}, {-18, 4}, {27, -13},
+	{-25, -15}, {2, -21},
+};
+static const OutlinePoint CLUMPS_SMALL_B[] = {
+	{3, 13}, {-24, 22}, {20, 25}, {-37, 5}, {36, 9}, {-14, 3}, {18, 4}, {-26, -12},
+	{24, -16}, {-2, -22},
+};
+static const OutlinePoint CLUMPS_THIN_A[] = {
+	{-3, 13}, {12, 22}, {-13, 21}, {19, 5}, {-19, 3}, {11, -13}, {-12, -15}, {1, -25},
+};
+static const OutlinePoint CLUMPS_THIN_B[] = {
+	{1, 14}, {-11, 22}, {13, 20}, {-19, 6}, {19, 3}, {-12, -12}, {11, -16}, {-1, -26},
+};
+static const ClumpPlaces PLACES_BIG[]   = {{16, CLUMPS_BIG_A}, {16, CLUMPS_BIG_B}, {16, CLUMPS_BIG_C}};
+static const ClumpPlaces PLACES_SMALL[] = {{10, CLUMPS_SMALL_A}, {10, CLUMPS_SMALL_B}};
+static const ClumpPlaces PLACES_THIN[]  = {{8, CLUMPS_THIN_A}, {8, CLUMPS_THIN_B}};
 
-static const PineShape TIERS_BIG      = {"pinetreebig",      -86, 17};
-static const PineShape TIERS_REGULAR  = {"pinetreeregular",  -72, 14};
-static const PineShape TIERS_SMALL    = {"pinetreesmall",    -59, 11};
-static const PineShape TIERS_SMALLEST = {"pinetreesmallest", -49,  9};
+static const PineShape TIERS_BIG      = {"pinetreebig",      {-95, -73, -53, -32, -11}};
+static const PineShape TIERS_REGULAR  = {"pinetreeregular",  {-78, -61, -44, -28, -11}};
+static const PineShape TIERS_SMALL    = {"pinetreesmall",    {-65, -51, -38, -25, -11}};
+static const PineShape TIERS_SMALLEST = {"pinetreesmallest", {-52, -41, -30, -20, -10}};
 
 static const char* const BIG_FRONDS   = "leafpalmbig";
 static const char* const SMALL_FRONDS = "leafpalmsmall";
@@ -141,9 +157,10 @@ const PalmFruitRange& PalmFruitRangeOf(int variant)
 	return PALM_FRUIT[std::clamp(variant, 0, PALM_VARIANTS - 1)];
 }
 
-const ClumpPlaces& ClumpPlacesOf(int size)
+const ClumpPlaces& ClumpPlacesOf(int size, int variant)
 {
-	return size == 2 ? PLACES_BIG : size == 1 ? PLACES_THIN : PLACES_SMALL;
+	int i = std::clamp(variant, 0, TrunkVariants(TREE_GREEN, size) - 1);
+	return size == 2 ? PLACES_BIG[i] : size == 1 ? PLACES_THIN[i] : PLACES_SMALL[i];
 }
 
 const PineShape& PineShapeOf(int size)
@@ -159,7 +176,10 @@ const PalmShape& PalmShapeOf(int variant)
 	return PALM_SHAPES[std::clamp(variant, 0, PALM_VARIANTS - 1)];
 }
 
-OutlinePoint CoconutPlace(int i) { return COCONUTS[i % std::size(COCONUTS)]; }
+OutlinePoint CoconutPlace(int i)
+{
+	return COCONUTS[i % std::size(COCONUTS)];
+}
 
 OutlinePoint FrondRoot(const char* stem, char letter)
 {

@@ -41,14 +41,13 @@ struct ClumpPlaces {
 	int count;
 	const OutlinePoint* places;
 };
-const ClumpPlaces& ClumpPlacesOf(int size);
+const ClumpPlaces& ClumpPlacesOf(int size, int variant);
 
 // A pine's tiers, from the top one down.
 const int PINE_TIERS = 5;
 struct PineShape {
 	const char* stem;
-	int firstY;   // upper edge of the top tier, relative to the trunk's upper edge
-	int step;     // pixels from tier to tier
+	int tierY[PINE_TIERS]; // upper edges, relative to the trunk's upper edge
 };
 const PineShape& PineShapeOf(int size);
 
@@ -59,5 +58,5 @@ struct PalmShape {
 	const char* fronds;
 };
 const PalmShape& PalmShapeOf(int variant);
-OutlinePoint CoconutPlace(int i);                            // middle, relative to the trunk's end
+OutlinePoint CoconutPlace(int i);                      // middle, relative to the trunk's end
 OutlinePoint FrondRoot(const char* stem, char letter); // pixel of the picture on the trunk's end

@@ -8,9 +8,9 @@ class CClock
 public:
 	virtual ~CClock() = default;
 
-	virtual unsigned int Ticks();                 // milliseconds since some fixed moment
+	virtual unsigned int Ticks();                  // milliseconds since some fixed moment
 	virtual void Delay(unsigned int milliseconds); // waits; 0 gives the processor away once
-	virtual long long Now();                      // seconds since 1970
+	virtual long long Now();                       // seconds since 1970
 };
 
 // A clock that stands still but for its own delays and for Advance.
@@ -22,7 +22,7 @@ public:
 	long long Now() override;
 	void Advance(unsigned int milliseconds);
 
-	unsigned int ticks = 1000;          // milliseconds
+	unsigned int ticks     = 1000;       // milliseconds
 	long long startSeconds = 1000000000; // what Now tells at tick 0
 };
 

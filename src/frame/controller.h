@@ -14,10 +14,10 @@ class CController
 public:
 	virtual ~CController() = default;
 
-	virtual void Enter() = 0;  // a child has returned; still intact, to be deleted here
+	virtual void Enter()  = 0; // a child has returned; still intact, to be deleted here
 	virtual void Update() = 0; // once a frame while current; begins with PollInput(this)
-	virtual void OnKey(bool released, int key) = 0; // SDL key symbol
-	virtual void OnMouseMove(int x, int y) = 0;     // pixels of the surface
+	virtual void OnKey(bool released, int key)                       = 0; // SDL key symbol
+	virtual void OnMouseMove(int x, int y)                           = 0; // pixels of the surface
 	virtual void OnMouseButton(bool left, bool right, bool released) = 0;
 	virtual void OnGuiEvent(int id, int value); // a widget of this screen has fired
 	virtual const char* Name() const = 0;       // class name, for the driver and the debug overlay

@@ -20,9 +20,9 @@ ProgramMode ParseMode(int argc, char** argv);
 class CFrameHook
 {
 public:
-	virtual ~CFrameHook() = default;
+	virtual ~CFrameHook()      = default;
 	virtual void BeforeFrame() = 0; // before the chain's tick: the place to push input events
-	virtual void AfterFrame() = 0;  // after the frame has been presented
+	virtual void AfterFrame()  = 0; // after the frame has been presented
 };
 
 // Starts the services in their fixed order, runs the main loop until the chain has run out, takes
@@ -30,5 +30,5 @@ public:
 // Returns the exit code.
 int RunProgram(const ProgramMode& mode, unsigned int seed, CFrameHook* hook);
 
-extern bool g_fullscreen;            // the wanted screen mode
+extern bool g_fullscreen;              // the wanted screen mode
 extern std::string g_moreGamesAddress; // text of data1.dat, at most 255 characters, may be empty

@@ -1,7 +1,7 @@
 // The one source of chance: a seeded generator of 15 bits, so that a run repeats from its seed.
 #include "frame/random.h"
 
-static unsigned int s_state   = 1;
+static unsigned int s_state  = 1;
 static unsigned long s_calls = 0;
 
 void SeedRandom(unsigned int seed)

@@ -8,7 +8,8 @@ void SeedRandom(unsigned int seed);
 // The next value, 0 to RAND_LIMIT.
 int Rand();
 
-// How often Rand has been called since the last seeding: two runs that agree here took the same turns.
+// How often Rand has been called since the last seeding: two runs that agree here took the same
+// turns.
 unsigned long RandomCalls();
 
 // a + (b - a) * Rand() / 32767 in floats; a may be above b.

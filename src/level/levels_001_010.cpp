@@ -16,14 +16,14 @@
 void BuildLevel001(CControllerGame*)
 {
 	BackgroundLook look;
-	look.ground        = GROUND_GRASS;
-	look.groundX       = 888;
-	look.fenceVariant  = 1;
-	look.hillsX        = 457;
-	look.rainbow       = true;
-	look.sky           = SKY_LIGHT_BLUE;
-	look.sunX          = 375;
-	look.sunY          = -40;
+	look.ground       = GROUND_GRASS;
+	look.groundX      = 888;
+	look.fenceVariant = 1;
+	look.hillsX       = 457;
+	look.rainbow      = true;
+	look.sky          = SKY_LIGHT_BLUE;
+	look.sunX         = 375;
+	look.sunY         = -40;
 	Background(look)->ScatterDecor(2);
 
 	new CMonkey(244, 187, RIGHT);

@@ -1,11 +1,17 @@
 // The words in which level routines speak: thin names over the constructors.
 #include "level/parts.h"
 
+#include "screens/game.h"
+
 static const int VALUE_BY_SKILL = -1;
 
+// The running level learns of its background here; a level without one counts as not there.
 CBackground* Background(const BackgroundLook& look)
 {
-	return new CBackground(look);
+	CBackground* background = new CBackground(look);
+	if (g_game)
+		g_game->background = background;
+	return background;
 }
 
 // What a crate is made from, with the constructor's ten arguments named.

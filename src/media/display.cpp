@@ -36,14 +36,15 @@ CDisplay::~CDisplay()
 	if (shakeBacking)
 		SDL_FreeSurface(shakeBacking);
 	FreeLoadingText();
-	for (SDL_Surface* surface : imageTable)
-		if (surface)
-			SDL_FreeSurface(surface);
+	for (const ImageSlot& slot : imageTable)
+		if (slot.surface)
+			SDL_FreeSurface(slot.surface);
 	for (const auto& [name, entry] : entryByName) {
 		if (entry->references > 0)
 			printf("IMAGE REMAINING: %s\n", name.c_str());
 		delete entry;
 	}
+	SDL_FreeSurface(screen); // gives back the handle; the window goes with SDL_Quit
 	SDL_ShowCursor(1);
 }
 

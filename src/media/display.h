@@ -15,9 +15,20 @@ const int FRAME_TICKS   = 33; // milliseconds from one presented frame to the ne
 
 // One picture of the archive: its file form stays in memory for the whole run.
 struct ImageEntry {
+	std::string name;
 	int references  = 0;
-	int imageNumber = -1; // -1 while it is not decoded
+	int imageNumber = -1; // -1 while nobody holds it
 	Bytes data;
+};
+
+// One number of the table. Until a picture is first drawn its entry waits and only its size is
+// known: a level asks for hundreds of pictures that may never be shown.
+struct ImageSlot {
+	SDL_Surface* surface = nullptr; // owned
+	ImageEntry* waiting  = nullptr;
+	int width = 0, height = 0; // pixels
+
+	bool IsFree() const { return !surface && !waiting; }
 };
 
 // Owns the 800x600 surface, the table of decoded images and the archive's bytes. Game code speaks
@@ -81,30 +92,30 @@ public:
 
 	// The images that are held for the whole run, so that no level start has to decode them.
 	void LoadPersistentImages();
+	static std::vector<std::string> PersistentImageNames(); // in load order
 	void ReleasePersistentImages();
 
-	SDL_Surface* ImageSurface(int number) const; // not handed over
-	SDL_Surface* screen = nullptr; // belongs to SDL; its pixels move at each mode change
-	bool drawingEnabled = true;    // cleared between two stacked screens: sprites stand still
+	SDL_Surface* ImageSurface(int number); // not handed over; decodes what has only been asked for
+	SDL_Surface* screen = nullptr;         // belongs to SDL; its pixels move at each mode change
+	bool drawingEnabled = true; // cleared between two stacked screens: sprites stand still
 
 private:
 	void OpenVideoMode();
 	void ShowLoadingPicture();
 	SDL_Surface* Target() const;
 	SDL_Surface* Decode(const Bytes& data, const std::string& type);
-	SDL_Surface* DecodeEntry(const std::string& name, const ImageEntry& entry);
+	SDL_Surface* DecodeEntry(const ImageEntry& entry);
+	int TakeSlot();
 	void StoreEntry(const std::string& name, Bytes&& data);
 	void ShakeStep();
 	void PaintShaken(int x, int y);
 	void WaitForFrame();
 	void UpdateDirtyRects();
-	void HoldImage(const std::string& name);
-	void HoldImages(const std::string& prefix, int first, int last, const std::string& suffix);
 
 	std::map<std::string, ImageEntry*> entryByName; // owned
 	std::map<int, ImageEntry*> entryByImageNumber;
-	std::vector<SDL_Surface*> imageTable; // owned; null where a slot is free
-	size_t firstFreeSlot = 0;             // no slot of the table below it is free
+	std::vector<ImageSlot> imageTable; // index is the image number
+	size_t firstFreeSlot = 0;          // no slot of the table below it is free
 	std::vector<int> persistentImages;
 	std::vector<SDL_Rect> updateRects; // scratch, kept so that no frame allocates
 

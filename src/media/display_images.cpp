@@ -4,13 +4,19 @@
 #include "frame/debug.h"
 
 #include <SDL_image.h>
+#include <algorithm>
 
 static const size_t TYPE_LENGTH = 3; // last letters of a name, which give the type of its data
 static const int OPAQUE         = 255;
 
-SDL_Surface* CDisplay::ImageSurface(int number) const
+SDL_Surface* CDisplay::ImageSurface(int number)
 {
-	return imageTable.at(static_cast<size_t>(number));
+	ImageSlot& slot = imageTable.at(static_cast<size_t>(number));
+	if (slot.waiting) {
+		slot.surface = DecodeEntry(*slot.waiting);
+		slot.waiting = nullptr;
+	}
+	return slot.surface;
 }
 
 bool CDisplay::HasImage(const std::string& name) const
@@ -21,8 +27,8 @@ bool CDisplay::HasImage(const std::string& name) const
 int CDisplay::DecodedImages() const
 {
 	int count = 0;
-	for (SDL_Surface* surface : imageTable)
-		if (surface)
+	for (const ImageSlot& slot : imageTable)
+		if (slot.surface)
 			count++;
 	return count;
 }
@@ -49,13 +55,33 @@ SDL_Surface* CDisplay::Decode(const Bytes& data, const std::string& type)
 	return decoded ? ConvertSurface(decoded, true) : nullptr;
 }
 
-SDL_Surface* CDisplay::DecodeEntry(const std::string& name, const ImageEntry& entry)
+static std::string TypeOf(const std::string& name)
 {
-	const size_t start   = name.size() > TYPE_LENGTH ? name.size() - TYPE_LENGTH : 0;
-	SDL_Surface* surface = Decode(entry.data, name.substr(start));
+	return name.size() > TYPE_LENGTH ? name.substr(name.size() - TYPE_LENGTH) : name;
+}
+
+SDL_Surface* CDisplay::DecodeEntry(const ImageEntry& entry)
+{
+	SDL_Surface* surface = Decode(entry.data, TypeOf(entry.name));
 	if (!surface)
-		Error("Unable to load image (" + name + "): ", SDL_GetError(), true, true);
+		Error("Unable to load image (" + entry.name + "): ", SDL_GetError(), true, true);
 	return surface;
+}
+
+// The size that a picture's header tells. False for a type or a header that isn't understood.
+static bool ReadSize(const ImageEntry& entry, int& width, int& height)
+{
+	static const unsigned char PNG_START[] = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1a, '\n'};
+	const Bytes& data                      = entry.data;
+	const std::string type                 = TypeOf(entry.name);
+	if (type == "png" && data.size() > 24 && std::equal(PNG_START, PNG_START + 8, data.begin())) {
+		width  = data[18] << 8 | data[19];
+		height = data[22] << 8 | data[23];
+	} else if (type == "tga" && data.size() > 18) {
+		width  = data[12] | data[13] << 8;
+		height = data[14] | data[15] << 8;
+	}
+	return width > 0 && height > 0;
 }
 
 int CDisplay::LoadFileImage(const std::string& path, const char* type)
@@ -74,16 +100,23 @@ int CDisplay::LoadImage(const std::string& name, bool privateCopy)
 	const auto found = entryByName.find(name);
 	if (found == entryByName.end())
 		Error("Unable to find preloaded image: ", name, true, true);
-	ImageEntry& entry    = *found->second;
-	const bool isDecoded = entry.references > 0 && entry.imageNumber >= 0;
+	ImageEntry& entry = *found->second;
+	const bool isHeld = entry.references > 0 && entry.imageNumber >= 0;
 	if (privateCopy) {
 		// A picture that nobody shares is decoded straight into the copy: nobody would free it.
-		SDL_Surface* copy = isDecoded ? ConvertSurface(ImageSurface(entry.imageNumber), false)
-		                              : DecodeEntry(name, entry);
+		SDL_Surface* copy =
+		    isHeld ? ConvertSurface(ImageSurface(entry.imageNumber), false) : DecodeEntry(entry);
 		return AdoptSurface(copy);
 	}
-	if (!isDecoded) {
-		entry.imageNumber                     = AdoptSurface(DecodeEntry(name, entry));
+	if (!isHeld) {
+		ImageSlot slot;
+		if (ReadSize(entry, slot.width, slot.height)) {
+			entry.imageNumber             = TakeSlot();
+			slot.waiting                  = &entry;
+			imageTable[entry.imageNumber] = slot;
+		} else {
+			entry.imageNumber = AdoptSurface(DecodeEntry(entry));
+		}
 		entryByImageNumber[entry.imageNumber] = &entry;
 	}
 	entry.references++;
@@ -92,8 +125,8 @@ int CDisplay::LoadImage(const std::string& name, bool privateCopy)
 
 void CDisplay::ReleaseImage(int number)
 {
-	SDL_Surface* surface = ImageSurface(number);
-	if (!surface)
+	ImageSlot& slot = imageTable.at(static_cast<size_t>(number));
+	if (slot.IsFree())
 		return;
 	const auto found = entryByImageNumber.find(number);
 	if (found != entryByImageNumber.end()) {
@@ -106,34 +139,39 @@ void CDisplay::ReleaseImage(int number)
 		}
 		entryByImageNumber.erase(found);
 	}
-	SDL_FreeSurface(surface);
-	imageTable[static_cast<size_t>(number)] = nullptr;
+	if (slot.surface)
+		SDL_FreeSurface(slot.surface);
+	slot = ImageSlot();
 	if (static_cast<size_t>(number) < firstFreeSlot)
 		firstFreeSlot = static_cast<size_t>(number);
 }
 
-int CDisplay::AdoptSurface(SDL_Surface* surface)
+int CDisplay::TakeSlot()
 {
 	size_t slot = firstFreeSlot;
-	while (slot < imageTable.size() && imageTable[slot])
+	while (slot < imageTable.size() && !imageTable[slot].IsFree())
 		slot++;
 	if (slot == imageTable.size())
-		imageTable.push_back(nullptr);
-	imageTable[slot] = surface;
-	firstFreeSlot    = slot + 1;
+		imageTable.push_back(ImageSlot());
+	firstFreeSlot = slot + 1;
 	return static_cast<int>(slot);
+}
+
+int CDisplay::AdoptSurface(SDL_Surface* surface)
+{
+	const int number   = TakeSlot();
+	imageTable[number] = {surface, nullptr, surface->w, surface->h};
+	return number;
 }
 
 int CDisplay::ImageWidth(int number) const
 {
-	const SDL_Surface* surface = ImageSurface(number);
-	return surface ? surface->w : 0;
+	return imageTable.at(static_cast<size_t>(number)).width;
 }
 
 int CDisplay::ImageHeight(int number) const
 {
-	const SDL_Surface* surface = ImageSurface(number);
-	return surface ? surface->h : 0;
+	return imageTable.at(static_cast<size_t>(number)).height;
 }
 
 int CDisplay::NewImage(int width, int height)

@@ -121,9 +121,9 @@ void CDisplay::Preload()
 	if (text < 0)
 		Error("Unable to load image: ", SDL_GetError(), true, true);
 	FreeLoadingText();
-	loadingText                           = imageTable[static_cast<size_t>(text)];
-	loadingBarWidth                       = 0;
-	imageTable[static_cast<size_t>(text)] = nullptr; // no image of the game, so out of the table
+	loadingText      = imageTable[text].surface;
+	loadingBarWidth  = 0;
+	imageTable[text] = ImageSlot(); // no image of the game, so out of the table
 
 	int stored = 0;
 	ArchiveVisitor visitor;
@@ -147,6 +147,7 @@ void CDisplay::StoreEntry(const std::string& name, Bytes&& data)
 	ImageEntry*& entry = entryByName[name];
 	if (!entry)
 		entry = new ImageEntry;
+	entry->name = name;
 	entry->data = std::move(data);
 }
 
@@ -181,33 +182,37 @@ void CDisplay::FreeLoadingText()
 }
 
 // Holding only saves decoding: a picture that is not there is reported when somebody shows it.
-void CDisplay::HoldImage(const std::string& name)
+static void AddRun(std::vector<std::string>& names, const PersistentRun& run)
 {
-	if (HasImage(name))
-		persistentImages.push_back(LoadImage(name));
+	for (int number = run.first; number <= run.last; number++)
+		names.push_back(run.prefix + std::to_string(number) + run.suffix);
 }
 
-void CDisplay::HoldImages(const std::string& prefix, int first, int last, const std::string& suffix)
+std::vector<std::string> CDisplay::PersistentImageNames()
 {
-	for (int number = first; number <= last; number++)
-		HoldImage(prefix + std::to_string(number) + suffix);
+	std::vector<std::string> names;
+	for (const PersistentRun& run : s_persistentRuns) {
+		if (run.first == NO_RUN)
+			names.push_back(run.prefix);
+		else
+			AddRun(names, run);
+	}
+	for (const char* name : s_persistentBubbles) {
+		if (strchr(name, '.')) {
+			names.push_back(name);
+			continue;
+		}
+		names.push_back(std::string(name) + "bubbleleft.png");
+		names.push_back(std::string(name) + "bubbleright.png");
+	}
+	return names;
 }
 
 void CDisplay::LoadPersistentImages()
 {
-	for (const PersistentRun& run : s_persistentRuns) {
-		if (run.first == NO_RUN)
-			HoldImage(run.prefix);
-		else
-			HoldImages(run.prefix, run.first, run.last, run.suffix);
-	}
-	for (const char* name : s_persistentBubbles) {
-		if (strchr(name, '.')) {
-			HoldImage(name);
-			continue;
-		}
-		HoldImage(std::string(name) + "bubbleleft.png");
-		HoldImage(std::string(name) + "bubbleright.png");
+	for (const std::string& name : PersistentImageNames()) {
+		persistentImages.push_back(LoadImage(name));
+		ImageSurface(persistentImages.back()); // decoded now, so that no level has to
 	}
 }
 

@@ -122,6 +122,7 @@ void CRenderManager::Update(bool clearDirty)
 	CleanDirtyList();
 	dirtyRects.insert(dirtyRects.end(), extraRects.begin(), extraRects.end());
 	extraRects.clear();
+	CollectVisible();
 	for (const Rect& rect : dirtyRects)
 		PaintRect(rect);
 	DrawDebugAids();
@@ -185,6 +186,19 @@ void CRenderManager::MergeDirtyList()
 	}
 }
 
+// Most sprites of a level are hidden, and each rectangle goes through all: a short list of bare
+// edges, in the same order, is gone through far quicker than the sprites themselves.
+void CRenderManager::CollectVisible()
+{
+	visible.clear();
+	if (dirtyRects.empty())
+		return;
+	for (CSprite* sprite : sprites)
+		if (!sprite->hidden)
+			visible.push_back({sprite->x, sprite->y, sprite->x + sprite->width,
+			                   sprite->y + sprite->height, sprite});
+}
+
 static bool PaintedEarlier(const PaintOrder& a, const PaintOrder& b)
 {
 	return a.depth != b.depth ? a.depth < b.depth : a.place < b.place;
@@ -194,9 +208,10 @@ void CRenderManager::PaintRect(const Rect& rect)
 {
 	currentRect = rect;
 	spritesInRect.clear();
-	for (CSprite* sprite : sprites)
-		if (sprite->OverlapsRect(rect))
-			spritesInRect.push_back(sprite);
+	for (const VisibleSprite& shown : visible)
+		if (shown.left < rect.x + rect.width && rect.x < shown.right &&
+		    shown.top < rect.y + rect.height && rect.y < shown.bottom)
+			spritesInRect.push_back(shown.sprite);
 	SortIntoGroups();
 
 	for (const PaintOrder& turn : ordinary) {

@@ -13,6 +13,12 @@ struct PaintOrder {
 	CSprite* sprite; // null stands for the whole trail group
 };
 
+// The edges of a sprite that may be painted this frame.
+struct VisibleSprite {
+	int left, top, right, bottom; // right and bottom lie just outside
+	CSprite* sprite;
+};
+
 const int FIELD_RIGHT       = 693;   // the side panel begins right of this column
 const int FIRST_PANEL_DEPTH = 15000; // sprites below it never repaint the side panel
 
@@ -47,6 +53,7 @@ private:
 	void AddLimited(const CSprite* sprite, Rect rect);
 	void CleanDirtyList();
 	void MergeDirtyList();
+	void CollectVisible();
 	void PaintRect(const Rect& rect);
 	void SortIntoGroups();
 	void DrawTrailGroup();
@@ -64,6 +71,7 @@ private:
 	std::vector<CSprite*> heldBack;
 	std::vector<CSprite*> trailOrder;
 	std::vector<Rect> extraRects;
+	std::vector<VisibleSprite> visible;
 	std::vector<PaintOrder> ordinary, overlays; // scratch, kept so that no frame allocates
 	int collisionMarker = -1, dirtyMarker = -1;
 	int trailCountdown    = 0; // frames to the next turn of the trail order

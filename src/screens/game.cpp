@@ -21,23 +21,23 @@
 #include "sound/sound_manager.h"
 #include "state/game_data.h"
 
-static const int PADDLE_START      = -300;    // mouse x: well off the field to the left
-static const float ENTRY_SPEED     = 54;      // pixels per frame of the mouse target
-static const float ENTRY_BRAKE     = 1.95f;   // lost each frame
-static const float ENTRY_SLOWEST   = 1;       // pixels per frame
-static const float FIELD_MIDDLE    = 346.5f;  // pixels
-static const int PADDLE_MIDDLE     = 30;      // from the paddle's x, where its entry is measured
-static const int POINTER_OFFSET    = 93;      // from the paddle's x: there the pointer leaves it still
-static const int WARPS_AT_START    = 2;       // motions pulled to the paddle
-static const int KEY_STEP          = 15;      // pixels a frame at mouse speed 1
-static const float RUN_OUT         = 0.85f;   // the ball's speed each frame once the level is over
-static const float SPEEDBALL       = 1.00033f; // the ball's speed each frame
-static const float SPEEDBALL_KIDS  = 1.0002f;
-static const int SLOW_RATE         = 23;  // frames per second that count as slow
-static const int SLOW_FRAMES       = 121; // of them until the player is asked
-static const int NO_HINT           = 2;   // written into the hint timer, so that it never runs out
-static const int DIALOG_SLOW       = 12;  // kind of the dialog that asks
-static const float GENTLE_START    = 0.1f; // share of its speed with which the ball starts again
+static const int PADDLE_START     = -300;   // mouse x: well off the field to the left
+static const float ENTRY_SPEED    = 54;     // pixels per frame of the mouse target
+static const float ENTRY_BRAKE    = 1.95f;  // lost each frame
+static const float ENTRY_SLOWEST  = 1;      // pixels per frame
+static const float FIELD_MIDDLE   = 346.5f; // pixels
+static const int PADDLE_MIDDLE    = 30;     // from the paddle's x, where its entry is measured
+static const int POINTER_OFFSET   = 93;    // from the paddle's x: there the pointer leaves it still
+static const int WARPS_AT_START   = 2;     // motions pulled to the paddle
+static const int KEY_STEP         = 15;    // pixels a frame at mouse speed 1
+static const float RUN_OUT        = 0.85f; // the ball's speed each frame once the level is over
+static const float SPEEDBALL      = 1.00033f; // the ball's speed each frame
+static const float SPEEDBALL_KIDS = 1.0002f;
+static const int SLOW_RATE        = 23;   // frames per second that count as slow
+static const int SLOW_FRAMES      = 121;  // of them until the player is asked
+static const int NO_HINT          = 2;    // written into the hint timer, so that it never runs out
+static const int DIALOG_SLOW      = 12;   // kind of the dialog that asks
+static const float GENTLE_START   = 0.1f; // share of its speed with which the ball starts again
 
 CControllerGame* g_game = nullptr;
 

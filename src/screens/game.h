@@ -124,7 +124,7 @@ private:
 	bool leftHeld = false, rightHeld = false, leftHeldLastFrame = false;
 	bool pressFoundBallHeld = false; // this press has let the ball go: it fires no ray
 	bool leftKeyHeld = false, rightKeyHeld = false;
-	int warpsLeft    = 2; // next motions that are pulled to the paddle
+	int warpsLeft     = 2; // next motions that are pulled to the paddle
 	int storedCursorX = 0, storedCursorY = 0;
 
 	float exitSpeed  = 0;  // pixels per frame
@@ -144,7 +144,7 @@ private:
 	GameChild childKind = CHILD_NONE;
 	int runningStory    = -1; // kind of the story page now open
 
-	CSprite* goSprite;         // owned
+	CSprite* goSprite;          // owned
 	CSound* levelCompleteSound; // owned
 	CSound* loseGameSound;      // owned
 };

@@ -19,12 +19,12 @@ enum GameChild {
 
 // What a screen is opened with; each kind reads its own fields.
 struct ChildRequest {
-	GameChild kind = CHILD_NONE;
-	int level      = 0;     // bonus card
-	int story      = 0;     // story: kind of the page
-	int value      = 0;     // story: what it carries; trophy tally: gallery number; dialog: kind
-	bool gameWon   = false; // end of game
-	int tallyType  = 0;     // tally: type and its four values
+	GameChild kind     = CHILD_NONE;
+	int level          = 0; // bonus card
+	int story          = 0; // story: kind of the page
+	int value          = 0; // story: what it carries; trophy tally: gallery number; dialog: kind
+	bool gameWon       = false; // end of game
+	int tallyType      = 0;     // tally: type and its four values
 	int tallyValues[4] = {};
 };
 

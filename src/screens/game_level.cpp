@@ -9,6 +9,7 @@
 #include "field/paddle.h"
 #include "field/sidebar.h"
 #include "field/tree.h"
+#include "frame/debug.h"
 #include "level/bonus_rules.h"
 #include "level/level_catalogue.h"
 #include "level/story_pages.h"
@@ -17,9 +18,9 @@
 #include "sound/sound_manager.h"
 #include "state/game_data.h"
 
-static const int BIG_BALL_STAGE   = 17;
+static const int BIG_BALL_STAGE    = 17;
 static const float SPEEDBALL_START = 1.4f; // times the ball's normal speed
-static const int BARRIER_PULSE    = 41;   // from the paddle's x
+static const int BARRIER_PULSE     = 41;   // from the paddle's x
 
 void CControllerGame::LoadLevel(int number)
 {
@@ -30,10 +31,11 @@ void CControllerGame::LoadLevel(int number)
 	alienCaught       = false;
 	leftKeyHeld = rightKeyHeld = false;
 
-	g_gameData->OnLevelRestart(levelNumber);
 	g_gameData->OnLevelStart(levelNumber);
 	BuildLevel(levelNumber, this);
 	if (!background) {
+		if (levelNumber == FIRST_LEVEL)
+			Error("The first level has no background.", true, true);
 		LoadLevel(FIRST_LEVEL);
 		return;
 	}
@@ -99,6 +101,7 @@ void CControllerGame::ReloadLevel()
 	ClearFieldPointers();
 	timer->Reset();
 	leftHeld = rightHeld = false;
+	elapsed              = -1; // before the level's prizes ask how long it has run
 
 	LoadLevel(-1);
 	exitSpeed      = 0;
@@ -107,17 +110,16 @@ void CControllerGame::ReloadLevel()
 	paddleEntering = true;
 	playOpen       = 0;
 	greeting->Begin();
-	elapsed = -1;
 }
 
 void CControllerGame::ClearFieldPointers()
 {
-	paddle     = nullptr;
-	ball       = nullptr;
-	barrier    = nullptr;
-	physics    = nullptr;
-	sidebar    = nullptr;
-	background = nullptr;
+	paddle       = nullptr;
+	ball         = nullptr;
+	barrier      = nullptr;
+	physics      = nullptr;
+	sidebar      = nullptr;
+	background   = nullptr;
 	g_paddle     = nullptr;
 	g_ball       = nullptr;
 	g_barrier    = nullptr;

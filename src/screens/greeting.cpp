@@ -4,23 +4,24 @@
 #include "field/bobber.h"
 #include "media/sprite.h"
 
-static const int LETTER_DEPTH  = 25000;
-static const int FIELD_MIDDLE  = 346; // pixels
-static const int ROW_Y         = 300;
-static const int OVERLAP       = 8;  // pixels that a letter reaches into the next
-static const int WORD_GAP      = 22; // pixels added after the first word
-static const int FIRST_WORD    = 3;  // letters
-static const int ROW_SHRINK    = 42; // the row is this much narrower than its letters
-static const int LETTER_DELAY  = 2;  // frames from one letter's leaving to the next's
-static const int RISE_A_FRAME  = 4;  // pixels
-static const int BOB_PERIOD    = 7;
-static const float BOB_POWER   = 1.5f;
-static const float BOB_HEIGHT  = 8;
-static const int BOB_PHASE     = 3; // steps from one letter to the next
+static const int LETTER_DEPTH = 25000;
+static const int FIELD_MIDDLE = 346; // pixels
+static const int ROW_Y        = 300;
+static const int OVERLAP      = 8;  // pixels that a letter reaches into the next
+static const int WORD_GAP     = 22; // pixels added after the first word
+static const int FIRST_WORD   = 3;  // letters
+static const int ROW_SHRINK   = 42; // the row is this much narrower than its letters
+static const int LETTER_DELAY = 2;  // frames from one letter's leaving to the next's
+static const int RISE_A_FRAME = 4;  // pixels
+static const int BOB_PERIOD   = 7;
+static const float BOB_POWER  = 1.5f;
+static const float BOB_HEIGHT = 8;
+static const int BOB_PHASE    = 3; // steps from one letter to the next
 
 static const char* s_letterFiles[GREETING_LETTERS] = {
-    "fontBbigG.png",   "fontBsmalle.png", "fontBsmallt.png", "fontBbigR.png",       "fontBsmalle.png",
-    "fontBsmalla.png", "fontBsmalld.png", "fontBsmally.png", "fontBexclamation.png"};
+    "fontBbigG.png",   "fontBsmalle.png", "fontBsmallt.png",
+    "fontBbigR.png",   "fontBsmalle.png", "fontBsmalla.png",
+    "fontBsmalld.png", "fontBsmally.png", "fontBexclamation.png"};
 
 CGreeting::CGreeting()
 {

@@ -28,6 +28,6 @@ private:
 	void StepLetter(int i);
 
 	int baseY = 0;
-	CSprite* letters[GREETING_LETTERS];  // owned
-	CBobber* bobbers[GREETING_LETTERS];  // owned
+	CSprite* letters[GREETING_LETTERS]; // owned
+	CBobber* bobbers[GREETING_LETTERS]; // owned
 };

@@ -14,14 +14,14 @@ public:
 
 	void Reset(); // hidden, for a level without a limit
 	void Set(int seconds, bool newHeld);
-	void Run() { running = true; }      // the go sign has come
-	void Release() { held = false; }    // the ball has been let go
-	void Step(bool levelOver);          // once a frame
+	void Run() { running = true; }   // the go sign has come
+	void Release() { held = false; } // the ball has been let go
+	void Step(bool levelOver);       // once a frame
 	bool IsVisible() const;
 	bool IsUp() const { return IsVisible() && timeLeft < 1; }
 	int SecondsLeft() const;
 
-	int timeLeft = 0;    // frames
+	int timeLeft = 0;     // frames
 	bool held    = false; // stands still until the ball is let go
 
 private:
@@ -32,7 +32,7 @@ private:
 
 	bool sliding = false, running = false;
 	float y = 0, slideSpeed = 0; // pixels, pixels per frame
-	CSprite* frame;         // owned, as are all below
+	CSprite* frame;              // owned, as are all below
 	CSprite* colon;
 	CSprite* digits[3][10]; // minutes, tens, ones; a sprite a value
 	CSprite* timeUp;

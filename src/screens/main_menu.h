@@ -29,8 +29,8 @@ private:
 	void Build();
 	void TearDown();
 
-	bool built = false;
-	CSprite* backdrop       = nullptr; // owned
-	CGuiButton* playButton = nullptr;  // owned
-	CControllerGame* game   = nullptr; // owned
+	bool built             = false;
+	CSprite* backdrop      = nullptr; // owned
+	CGuiButton* playButton = nullptr; // owned
+	CControllerGame* game  = nullptr; // owned
 };

@@ -133,7 +133,7 @@ public:
 
 	// Level bookkeeping.
 	void OnLevelStart(int level);
-	void OnLevelRestart(int level); // takes back what an earlier play of it gave
+	void OnLevelRestart(int level); // takes back what an earlier play gave; OnLevelStart does too
 	void SetLevelScore(int score);  // of currentLevel
 	void SetLevelRescues(int n);
 	void SetLevelExtraLives(int n);

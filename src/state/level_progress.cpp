@@ -141,15 +141,15 @@ void CGameData::OnLevelStart(int level)
 	drumsInLevel = drumsFired = obstaclesAtStart = 0;
 }
 
-// What is taken back is also struck from the record, so that a second call takes nothing.
+// The stored score stays in the record until the level is finished again: a replay that is given
+// up costs nothing of it. The lives are struck from it, or a second replay would take them again.
 void CGameData::OnLevelRestart(int level)
 {
 	if (level < 1 || level > LEVEL_COUNT)
 		return;
 	LevelRecord& record = profile.levels[level - 1];
-	SetPlayScore(std::max(g_play.levelScore - record.score, 0));
+	SetPlayScore(TotalScore() - record.score);
 	g_play.lives      = std::max(g_play.lives - record.extraLives, 0);
-	record.score      = 0;
 	record.rescues    = 0;
 	record.extraLives = 0;
 	rescuesThisLevel  = 0;

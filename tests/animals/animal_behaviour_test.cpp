@@ -39,6 +39,16 @@ static const ActionRow s_walker[] = {
 static const SpeciesTable WALKER = { "duck", s_walker, {}, s_body, {}, {} };
 // clang-format on
 
+// clang-format off
+static const ActionRow s_hen[] = {
+	{ "stand", ACTION_IDLE, ".",   0, ROLE_NONE, "" },
+	{ "quack", ACTION_LAY,  "0-7", 0, ROLE_BUMP, "",
+	  { .sounds = {"duck_quack.ogg", "duck_quack2.ogg"}, .soundDelay = 4,
+	    .extraSound = "duckling_quack.ogg", .extraDelay = 2 } },
+};
+static const SpeciesTable HEN = { "duck", s_hen, {}, s_body, {}, {} };
+// clang-format on
+
 class BehaviourTest : public AnimalTest
 {
 protected:
@@ -258,6 +268,48 @@ TEST_F(BehaviourTest, AFallComesDownAndLandsOnce)
 	for (int i = 0; i < 200 && animal->moving; i++)
 		Run();
 	EXPECT_FALSE(animal->moving) << "a finished walk clears it";
+}
+
+TEST_F(BehaviourTest, AHenLaysOneEggAtTheEndOfTheFirstPicture)
+{
+	for (bool left : {true, false}) {
+		CTestAnimal* hen   = new CTestAnimal(HEN, 300, 200, left);
+		hen->currentAction = hen->bumpAction;
+		for (int i = 0; i < 40 && hen->dependants.empty(); i++)
+			Run();
+		EXPECT_LE(hen->currentSprite->Frame(), 1);
+		ASSERT_EQ(1u, hen->dependants.size());
+		EXPECT_EQ(hen->x + (left ? 18 : -30), hen->dependants[0]->x);
+		EXPECT_EQ(hen->y + 13, hen->dependants[0]->y);
+
+		Run(40);
+		EXPECT_EQ(1u, hen->dependants.size());
+		hen->active        = false;
+		hen->currentAction = hen->bumpAction;
+		Run(40);
+		EXPECT_EQ(1u, hen->dependants.size()) << "not while it is away";
+		ClearField();
+	}
+}
+
+TEST_F(BehaviourTest, TheSoundIsDrawnAtItsMomentUnlessTheLevelIsBeingBuilt)
+{
+	for (bool on : {true, false}) {
+		CElementAnimal::animalSoundsOn = on;
+		CTestAnimal* hen               = new CTestAnimal(HEN, 300, 200);
+		hen->active                    = false; // no egg, which draws too
+		hen->currentAction             = hen->bumpAction;
+		unsigned long calls            = RandomCalls();
+		Run(4);
+		EXPECT_EQ(calls, RandomCalls());
+		EXPECT_EQ(0, hen->bumpAction->soundCountdown);
+		EXPECT_EQ(-1, hen->bumpAction->extraSoundCountdown);
+		Run();
+		EXPECT_EQ(calls + on, RandomCalls()) << "one of two";
+		EXPECT_EQ(-1, hen->bumpAction->soundCountdown);
+		Run(3);
+		EXPECT_EQ(calls + on, RandomCalls()) << "and only once";
+	}
 }
 
 TEST_F(BehaviourTest, EveryRandomSpanStaysWithinItsBounds)

@@ -27,18 +27,10 @@ protected:
 	{
 		return new CCrate(x, y, 0, 0, 0, false, false, false, nullptr, 0);
 	}
-	static void MakeBird(CTestAnimal* bird)
-	{
-		bird->flightSpeedX  = 3;
-		bird->flightSpeedY  = 1;
-		bird->flightSpeedZ  = 0.5f;
-		bird->flightCeiling = 100;
-		bird->flightMargin  = 5;
-	}
 	static CTestAnimal* BirdOn(CCrate* crate)
 	{
 		CTestAnimal* bird = new CTestAnimal(BIRD, 300, 200);
-		MakeBird(bird);
+		bird->FlyAsPerchingBird();
 		bird->crateOffsetLeft = 4;
 		bird->crateOffsetY    = -2;
 		bird->ClearBody();

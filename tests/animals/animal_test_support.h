@@ -34,7 +34,7 @@ public:
 	const char* ClassName() const override { return "CTestAnimal"; }
 	void OnLanded() override { landings++; }
 
-	using CElementAnimal::LoadCall;
+	using CElementAnimal::FlyAsPerchingBird;
 	using CElementAnimal::PlaceOn;
 	int landings = 0;
 };

@@ -7,8 +7,6 @@
 #include "media/display.h"
 #include "media/sprite.h"
 
-#include <chrono>
-#include <cstdio>
 #include <cmath>
 #include <set>
 
@@ -35,6 +33,9 @@ TEST(SpeciesTables, PictureNamesFollowTheRules)
 	          files("bear", "rearup", true, "8*2 blink"));
 	EXPECT_EQ("monkey_climbright2.png monkey_climbcommon0.png monkey_climbcommon1.png",
 	          files("monkey", "_climb", false, "2 =_climbcommon0-1"));
+	EXPECT_EQ("chipmunkrunleftup0.png chipmunkrunleftup1.png",
+	          files("chipmunk", "run", true, "up0-1"));
+	EXPECT_EQ("duckblink.png", files("duck", "look", true, "=blink"));
 	EXPECT_EQ("walkdown", DownWord("walkup"));
 	EXPECT_EQ("down", DownWord("up"));
 	EXPECT_EQ("", DownWord("look"));

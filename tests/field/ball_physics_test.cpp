@@ -113,14 +113,16 @@ TEST_F(BallPhysicsTest, WallsReflectTheMotionLeftInTheFrame)
 
 TEST_F(BallPhysicsTest, WallRepairPutsTheBallBackAndTheWallThenReflectsIt)
 {
-	for (int stage = 0; stage <= 18; stage++) {
+	for (int i = 0; i < 2 * 19; i++) { // plain and with the thicker glass of a big ball
+		int stage = i / 2;
 		SetBallStage(stage);
-		float r = ball->Radius();
-		PutBall(r - 3, 300, -5, 1);
+		ball->big = i % 2;
+		float r   = ball->Radius();
+		PutBall(r - 3, 300, -5, 0); // head on: the smallest distance
 		physics->Step();
 		EXPECT_GE(ball->x, r) << stage;
 		EXPECT_NEAR(5, ball->vx, 0.01f) << stage << ": rounding must not hide the wall";
-		PutBall(693 - r + 3, 300, 5, 1);
+		PutBall(693 - r + 3, 300, 5, 0);
 		physics->Step();
 		EXPECT_LE(ball->x, 693 - r) << stage;
 		EXPECT_NEAR(-5, ball->vx, 0.01f) << stage;
@@ -213,10 +215,10 @@ TEST_F(BallPhysicsTest, PaddleSendsTheBallAlongItsNormalWhereverItCameFrom)
 		float lengthOf = std::sqrt(1 + place.slope * place.slope);
 		float nx = -place.slope / lengthOf, ny = -1 / lengthOf;
 		// Start on the normal through the middle of the segment, fly against it and across it.
-		float midX = crest + place.atX;
-		int index  = static_cast<int>((midX - left + 9) / 5);
+		float midX                              = crest + place.atX;
+		int index                               = static_cast<int>((midX - left + 9) / 5);
 		const std::vector<ObstaclePoint*>& list = CElement::ObstaclePointList;
-		float midY = (list[index]->y + list[index + 1]->y) / 2;
+		float midY                              = (list[index]->y + list[index + 1]->y) / 2;
 		for (float swing : {0.0f, 0.4f, -0.4f}) {
 			float dirX = -nx + swing * ny, dirY = -ny - swing * nx;
 			PutBall(midX + nx * 15 - dirX * 3, midY + ny * 15 - dirY * 3, dirX * 8, dirY * 8);
@@ -245,8 +247,8 @@ TEST_F(BallPhysicsTest, PaddleAlwaysSendsUpward)
 TEST_F(BallPhysicsTest, PaddleTouchIsNotedAndClearsTheCombo)
 {
 	paddle->SetMouseX(400);
-	sidebar->comboCount            = 3;
-	g_levelGameData->notes         = LevelNotes();
+	sidebar->comboCount    = 3;
+	g_levelGameData->notes = LevelNotes();
 	PutBall(static_cast<float>(paddle->GetX()) + 36, 500, 0, 8);
 	physics->Step();
 	EXPECT_EQ(0, sidebar->comboCount);

@@ -85,9 +85,9 @@ TEST_F(BallTest, LoadDecidesTheStage)
 	}
 	struct {
 		int load, stage;
-	} edges[] = {{18, 10}, {19, 11}, {23, 11}, {24, 12}, {29, 12}, {30, 13}, {36, 13},
-	             {37, 14}, {43, 14}, {44, 15}, {52, 15}, {53, 16}, {60, 16}, {61, 17},
-	             {73, 17}, {74, 18}, {500, 18}};
+	} edges[] = {{18, 10}, {19, 11}, {23, 11}, {24, 12}, {29, 12}, {30, 13},
+	             {36, 13}, {37, 14}, {43, 14}, {44, 15}, {52, 15}, {53, 16},
+	             {60, 16}, {61, 17}, {73, 17}, {74, 18}, {500, 18}};
 	for (const auto& edge : edges) {
 		ball->stage = 0;
 		ball->load  = edge.load - 1;
@@ -195,7 +195,7 @@ TEST_F(BallTest, ContentsStayInsideTheGlass)
 	PutBall(300, 300, 4, -5);
 	bool slid = false;
 	for (int frame = 0; frame < 600; frame++) {
-		Tick();
+		ball->Update();
 		float glass = static_cast<float>(ball->currentSprite->Width() / 2) - 1;
 		for (const BallContent* content : ball->contents) {
 			slid = slid || content->sliding;
@@ -356,9 +356,10 @@ TEST_F(BallTest, TrailGrowsWithTheBallAndNeverPassesItsTable)
 	for (const auto& each : cases) {
 		ball->SetStage(each.stage);
 		int seen = 0;
-		Tick(25); // those of the last stage have ended
+		for (int i = 0; i < 25; i++)
+			ball->Update(); // those of the last stage have ended
 		for (int i = 0; i < 60; i++) {
-			Tick();
+			ball->Update();
 			int active = 0, shown = 0;
 			for (const TrailBubble& bubble : ball->trail) {
 				active += bubble.active;

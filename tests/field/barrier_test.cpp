@@ -23,8 +23,8 @@ protected:
 	{
 		for (int i = 0; i < frames; i++) {
 			barrier->Update();
-			for (CSprite* sprite : {barrier->mainSprite, barrier->topSprite, barrier->pulseLeft,
-			                        barrier->pulseRight})
+			for (CSprite* sprite :
+			     {barrier->mainSprite, barrier->topSprite, barrier->pulseLeft, barrier->pulseRight})
 				sprite->Step();
 		}
 	}

@@ -7,8 +7,8 @@ TEST(Bobber, StartPicksQuarterOfTheSwing)
 {
 	struct {
 		int start, phase, direction;
-	} cases[] = {{0, 0, 1},  {3, 3, 1},   {10, 10, -1}, {13, 7, -1},
-	             {20, 0, -1}, {23, -3, -1}, {30, -10, 1}, {33, -7, 1}, {40, 0, 1}};
+	} cases[] = {{0, 0, 1},    {3, 3, 1},    {10, 10, -1}, {13, 7, -1}, {20, 0, -1},
+	             {23, -3, -1}, {30, -10, 1}, {33, -7, 1},  {40, 0, 1}};
 	for (const auto& each : cases) {
 		CBobber bobber(100, 10, 3, 8, each.start);
 		EXPECT_EQ(each.phase, bobber.phase) << each.start;

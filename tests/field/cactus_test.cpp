@@ -12,8 +12,8 @@ TEST_F(CactusTest, EachKindStandsOnItsFoot)
 {
 	struct {
 		int kind, variant, frames;
-	} rows[] = {{3, 0, 12}, {3, 4, 12}, {3, 9, 12}, {2, 0, 12}, {2, 2, 12}, {1, 0, 1}, {1, 10, 1},
-	            {0, 0, 1},  {0, 10, 1}, {3, -1, 12}, {0, -1, 1}};
+	} rows[] = {{3, 0, 12}, {3, 4, 12}, {3, 9, 12}, {2, 0, 12},  {2, 2, 12}, {1, 0, 1},
+	            {1, 10, 1}, {0, 0, 1},  {0, 10, 1}, {3, -1, 12}, {0, -1, 1}};
 	for (const auto& row : rows) {
 		CCactus* cactus = new CCactus(300, 300, row.kind, row.variant);
 		EXPECT_EQ(row.frames, cactus->sprite->FrameCount());

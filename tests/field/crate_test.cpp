@@ -126,7 +126,7 @@ TEST_F(CrateTest, FootprintIsAClosedDiamondUnderTheLowestLayerOnly)
 	static const struct {
 		int left, right, top, bottom;
 	} BOXES[] = {{-22, 20, -7, 5}, {-14, 15, 6, 16}};
-	int i = 0;
+	int i     = 0;
 	for (CCrate* foot : {crate, barrel}) {
 		float left = 1000, right = 0, top = 1000, bottom = 0;
 		std::vector<ObstaclePoint*> points = PointsOf(foot);
@@ -240,8 +240,8 @@ TEST_F(CrateTest, BlastReachesWhatStandsOnTheGroundNearby)
 	CCrate* far    = Crate(400, 200);
 	CCrate* middle = Crate(500, 200);
 	StackCrate(foot, upper);
-	int half  = foot->base->Width() / 2;
-	int edge  = foot->base->X() + half + half + 5;
+	int half = foot->base->Width() / 2;
+	int edge = foot->base->X() + half + half + 5;
 	CElementBreakable::BlastAll(edge, 5);
 	EXPECT_TRUE(foot->broken);
 	EXPECT_FALSE(upper->broken);
@@ -308,8 +308,8 @@ TEST_F(CrateTest, BirdFliesUpWhenItsCrateIsHitOrFalls)
 TEST_F(CrateTest, QueriesFindStandingCrates)
 {
 	CCrate* crate = CoinCrate(300, 300);
-	int x = crate->base->X() + crate->base->Width() / 2;
-	int y = crate->base->Y() + crate->base->Height() / 2;
+	int x         = crate->base->X() + crate->base->Width() / 2;
+	int y         = crate->base->Y() + crate->base->Height() / 2;
 	EXPECT_TRUE(CCrate::AnyAt(x + 10, y - 10, 10, 10));
 	EXPECT_FALSE(CCrate::AnyAt(x + 11, y, 10, 10));
 	EXPECT_TRUE(CCrate::AnyHoldsCoinsOrApples());

@@ -69,8 +69,8 @@ TEST_F(DrumTest, BlastMakesItSpewAtOnceAndLeavesItStanding)
 TEST_F(DrumTest, CloudTestLooksAtItsMiddleAndUpperThird)
 {
 	CDrum* drum = new CDrum(300, 300, true);
-	int x = drum->base->X() + drum->base->Width() / 2;
-	int y = drum->base->Y() + drum->base->Height() / 3;
+	int x       = drum->base->X() + drum->base->Width() / 2;
+	int y       = drum->base->Y() + drum->base->Height() / 3;
 	EXPECT_TRUE(CDrum::AnyCloudAt(x + drum->base->Width() / 4, y - 10, 10));
 	EXPECT_FALSE(CDrum::AnyCloudAt(x + drum->base->Width() / 4 + 1, y, 10));
 	EXPECT_FALSE(CDrum::AnyCloudAt(x, y + 11, 10));

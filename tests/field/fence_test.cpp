@@ -41,8 +41,8 @@ TEST_F(FenceTest, EachStyleReachesItsFarPost)
 	static const struct {
 		int direction, style, dx, dy;
 	} CASES[] = {
-		{FENCE_RIGHT, 0, 51, 0},   {FENCE_LEFT, 0, -51, 0},  {FENCE_RIGHT, 1, 33, 21},
-		{FENCE_LEFT, 1, -33, -21}, {FENCE_RIGHT, 2, 33, -21}, {FENCE_LEFT, 2, -33, 21},
+	    {FENCE_RIGHT, 0, 51, 0},   {FENCE_LEFT, 0, -51, 0},   {FENCE_RIGHT, 1, 33, 21},
+	    {FENCE_LEFT, 1, -33, -21}, {FENCE_RIGHT, 2, 33, -21}, {FENCE_LEFT, 2, -33, 21},
 	};
 	for (const auto& row : CASES) {
 		SCOPED_TRACE(row.direction * 10 + row.style);
@@ -65,11 +65,10 @@ TEST_F(FenceTest, RailsOfAChainHoldTogether)
 	for (const ObstaclePoint* point : CElement::ObstaclePointList) {
 		if (point->owner->ClassName() != std::string("CFence"))
 			continue;
-		bool toTheRight = point->x > 270; // the chain's end
+		bool toTheRight = point->x >= 270; // the chain's end
 		for (const ObstaclePoint* other : CElement::ObstaclePointList) {
 			float distance = std::hypot(other->x - point->x, other->y - point->y);
-			toTheRight     = toTheRight ||
-			             (other->x > point->x && distance <= CElement::JOIN_DISTANCE);
+			toTheRight = toTheRight || (other->x > point->x && distance <= CElement::JOIN_DISTANCE);
 		}
 		EXPECT_TRUE(toTheRight) << point->x << ", " << point->y;
 	}
@@ -100,9 +99,9 @@ TEST_F(FenceTest, TakesDamageAsACrateDoes)
 
 TEST_F(FenceTest, PostLooksAsWornAsItsBestSection)
 {
-	CFence* last      = FenceChain(100, 200, {{FENCE_RIGHT, 0}, {FENCE_RIGHT, 0}});
-	CFence* first     = CFence::FenceList[0];
-	CFencePost* post  = last->leftPost;
+	CFence* last     = FenceChain(100, 200, {{FENCE_RIGHT, 0}, {FENCE_RIGHT, 0}});
+	CFence* first    = CFence::FenceList[0];
+	CFencePost* post = last->leftPost;
 	ASSERT_EQ(first->rightPost, post);
 	Hit(first);
 	Tick();

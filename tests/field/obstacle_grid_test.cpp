@@ -38,6 +38,12 @@ protected:
 		}
 	}
 
+	void RemoveRandomField()
+	{
+		for (CPost* owner : owners)
+			RemoveObstaclePoints(owner);
+	}
+
 	static void LayLine(CElement* owner)
 	{
 		float x1 = RandomRange(-50, 740), y1 = RandomRange(-50, 650);
@@ -132,8 +138,8 @@ static bool Same(const BallPhysics::Segment& a, const BallPhysics::Segment& b)
 TEST_F(ObstacleGridTest, SegmentsOfAPassEqualTheWalkOverTheList)
 {
 	size_t total = 0;
+	MakeBallAndPaddle();
 	for (unsigned int seed = 1; seed <= 30; seed++) {
-		MakeBallAndPaddle();
 		MakeRandomField(seed);
 		for (int i = 0; i < 30; i++) {
 			PutBall(RandomRange(0, 693), 0, 0, 0);
@@ -146,7 +152,7 @@ TEST_F(ObstacleGridTest, SegmentsOfAPassEqualTheWalkOverTheList)
 				ASSERT_TRUE(Same(walk[k], physics->segments[k])) << "seed " << seed << " " << k;
 			total += walk.size();
 		}
-		ClearField();
+		RemoveRandomField();
 	}
 	EXPECT_GT(total, 1000u);
 }
@@ -155,22 +161,22 @@ TEST_F(ObstacleGridTest, SegmentsOfAPassEqualTheWalkOverTheList)
 TEST_F(ObstacleGridTest, NearestContactEqualsTheTestOfEveryCandidate)
 {
 	int contacts = 0;
+	MakeBallAndPaddle();
 	for (unsigned int seed = 1; seed <= 40; seed++) {
-		MakeBallAndPaddle();
 		MakeRandomField(seed);
 		for (int i = 0; i < 60; i++) {
 			PutBall(RandomRange(0, 693), 0, 0, 0);
 			ball->y              = RandomRange(0, 600);
 			physics->remainingDx = RandomRange(-30, 30);
 			physics->remainingDy = i % 7 == 0 ? 0 : RandomRange(-30, 30);
-			float remaining = PointDistance(physics->remainingDx, physics->remainingDy, 0, 0);
-			float r         = RandomRange(13, 50);
+			float remaining      = PointDistance(physics->remainingDx, physics->remainingDy, 0, 0);
+			float r              = RandomRange(13, 50);
 			physics->CollectSegments(remaining + r);
 
 			BallPhysics::Contact best, each;
 			for (const BallPhysics::Segment& segment : physics->segments) {
-				if (physics->MeetsSegment(segment, r, remaining, each) && each.distance >= 0.0095f &&
-				    (!best.segment || each.distance < best.distance))
+				if (physics->MeetsSegment(segment, r, remaining, each) &&
+				    each.distance >= 0.0095f && (!best.segment || each.distance < best.distance))
 					best = each;
 			}
 			BallPhysics::Contact found = physics->NearestContact(r, remaining);
@@ -178,7 +184,7 @@ TEST_F(ObstacleGridTest, NearestContactEqualsTheTestOfEveryCandidate)
 			ASSERT_EQ(best.distance, found.distance);
 			contacts += found.segment != nullptr;
 		}
-		ClearField();
+		RemoveRandomField();
 	}
 	EXPECT_GT(contacts, 300);
 }

@@ -114,7 +114,7 @@ TEST_F(PowerupTest, CatchZoneIsTheLowerEdgeOverThePaddle)
 	for (const auto& each : sides) {
 		CPowerup* powerup = Drop(POWERUP_DOUBLE);
 		powerup->vx = powerup->sway = 0;
-		int shift = paddle->GetX() + each.leftEdge - powerup->carried->X();
+		int shift                   = paddle->GetX() + each.leftEdge - powerup->carried->X();
 		powerup->x = static_cast<float>(static_cast<int>(powerup->x) + shift) + 0.5f;
 		powerup->Update();
 		EXPECT_EQ(each.caught, powerup->caught) << each.leftEdge;
@@ -127,7 +127,7 @@ TEST_F(PowerupTest, CaughtPrizeBurstsOnceAndFallsOnUnseen)
 	int score         = g_play.levelScore;
 	EXPECT_TRUE(powerup->carried->IsHidden() && powerup->icon->IsHidden());
 	EXPECT_FALSE(powerup->sparkle->IsHidden());
-	for (int i = 0; i < 40; i++) {
+	for (int i = 0; i < 150; i++) {
 		powerup->sparkle->Step();
 		powerup->burst->Step();
 		powerup->Update();

@@ -38,7 +38,8 @@ TEST_F(RockTest, EveryPictureHasItsBandOnIt)
 			EXPECT_GT(CElement::ObstaclePointList.size(), 6u);
 			for (const ObstaclePoint* point : CElement::ObstaclePointList) {
 				EXPECT_TRUE(point->x >= s->X() && point->x <= s->X() + s->Width());
-				EXPECT_TRUE(point->y >= s->Y() + s->Height() / 4 && point->y <= s->Y() + s->Height());
+				EXPECT_TRUE(point->y >= s->Y() + s->Height() / 4 &&
+				            point->y <= s->Y() + s->Height());
 			}
 			ClearField();
 			EXPECT_TRUE(CRock::RockList.empty());

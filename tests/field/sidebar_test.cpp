@@ -116,7 +116,7 @@ TEST_F(SidebarTest, BannerStaysInTheFieldAndGoesWhenPlayed)
 	PutBall(5, 300, 0, -5);
 	sidebar->OnCollect(SPECIES_COW);
 	sidebar->OnCollect(SPECIES_COW);
-	CComboBanner& banner = sidebar->panel->combo;
+	CComboBanner& banner  = sidebar->panel->combo;
 	const CSprite* number = banner.number[0];
 	const CSprite* word   = banner.word[0];
 	EXPECT_EQ(0, number->X());
@@ -368,8 +368,8 @@ TEST_F(SidebarTest, PortraitsAreShownInOrderBehindTheDoor)
 	CPanelDoor& door        = sidebar->panel->portraitDoor;
 	std::vector<int> shown;
 	for (int frame = 0; frame < 600; frame++) {
-		int before    = window.number;
-		bool wasOpen  = door.rubberSlide > 0 || door.mainSlide > 0;
+		int before   = window.number;
+		bool wasOpen = door.rubberSlide > 0 || door.mainSlide > 0;
 		Frames();
 		if (window.number != before) {
 			shown.push_back(window.number);
@@ -436,23 +436,23 @@ TEST_F(SidebarTest, DigitsAreRowsOfTheStrip)
 	static const struct {
 		int shown, place, row;
 	} CASES[] = {
-		{0, 0, 0},            // no value yet: the blank row
-		{20, 0, 20},          // 1
-		{35, 0, 35},          // three quarters on the way to 2
-		{200, 0, 200},        // the 0 of 10
-		{215, 0, 215},        // on the way to 11
-		{220, 0, 20},         // the 1 of 11
-		{180, 1, 0},          // 9 has no tens: a leading zero
-		{200, 1, 20},         // the 1 of 10
-		{399, 1, 20},         // whole steps only
-		{2000, 1, 200},       // the tens of 100
-		{40 * 1234, 1, 120},  // 2468: the 6
-		{40 * 1234, 3, 40},   // the 2
-		{40 * 1234, 4, 0},    // nothing before it
+	    {0, 0, 0},           // no value yet: the blank row
+	    {20, 0, 20},         // 1
+	    {35, 0, 35},         // three quarters on the way to 2
+	    {200, 0, 200},       // the 0 of 10
+	    {215, 0, 215},       // on the way to 11
+	    {220, 0, 20},        // the 1 of 11
+	    {180, 1, 0},         // 9 has no tens: a leading zero
+	    {200, 1, 20},        // the 1 of 10
+	    {399, 1, 20},        // whole steps only
+	    {2000, 1, 200},      // the tens of 100
+	    {40 * 1234, 1, 120}, // 2468: the 6
+	    {40 * 1234, 3, 40},  // the 2
+	    {40 * 1234, 4, 0},   // nothing before it
 	};
 	for (const auto& row : CASES)
 		EXPECT_EQ(row.row, CScoreDrum::StripRow(row.shown, row.place))
-			<< row.shown << " at " << row.place;
+		    << row.shown << " at " << row.place;
 }
 
 TEST_F(SidebarTest, DrumsRollFastFromFarAndSettleExactly)
@@ -528,7 +528,7 @@ TEST(Portraits, EveryAnimalHasOneOfItsOwn)
 	EXPECT_EQ(2, PortraitOfKind(POINT_EGG_RIGHT));
 	EXPECT_EQ(35, PortraitOfKind(SPECIES_MONKEY));
 	EXPECT_EQ(0, PortraitOfKind(SPECIES_ALIEN));
-	for (int kind : {int(POINT_APPLE), int(POINT_COIN), int(POINT_COCONUT),
-	                 int(SPECIES_BUTTERFLY_A)})
+	for (int kind :
+	     {int(POINT_APPLE), int(POINT_COIN), int(POINT_COCONUT), int(SPECIES_BUTTERFLY_A)})
 		EXPECT_EQ(-1, PortraitOfKind(kind));
 }

@@ -49,12 +49,15 @@ TEST_F(TreeTest, EveryTreeStandsOnItsPlace)
 	struct {
 		int kind, size, variant, shiftX, shiftY, foliage;
 	} rows[] = {
-	    {TREE_PALM, 0, 0, 16, 188, 12}, {TREE_PALM, 0, 1, 68, 175, 14}, {TREE_PALM, 0, 2, 26, 182, 13},
-	    {TREE_PALM, 0, 3, 16, 164, 14}, {TREE_PALM, 0, 4, 17, 155, 12}, {TREE_PALM, 0, 5, 33, 147, 11},
-	    {TREE_PALM, 0, 6, 15, 125, 11}, {TREE_PINE, 2, 0, 10, 46, 5},   {TREE_PINE, 3, 1, 8, 35, 5},
-	    {TREE_PINE, 0, 0, 6, 26, 5},    {TREE_PINE, 1, 1, 5, 21, 5},    {TREE_GREEN, 2, 0, 52, 95, 16},
-	    {TREE_ORANGE, 2, 1, 66, 95, 16}, {TREE_RED, 2, 2, 70, 97, 16},  {TREE_RED, 1, 0, 13, 80, 8},
-	    {TREE_GREEN, 1, 1, 13, 80, 8},  {TREE_ORANGE, 0, 0, 43, 68, 10}, {TREE_GREEN, 0, 1, 45, 69, 10},
+	    {TREE_PALM, 0, 0, 16, 188, 12},  {TREE_PALM, 0, 1, 68, 175, 14},
+	    {TREE_PALM, 0, 2, 26, 182, 13},  {TREE_PALM, 0, 3, 16, 164, 14},
+	    {TREE_PALM, 0, 4, 17, 155, 12},  {TREE_PALM, 0, 5, 33, 147, 11},
+	    {TREE_PALM, 0, 6, 15, 125, 11},  {TREE_PINE, 2, 0, 10, 46, 5},
+	    {TREE_PINE, 3, 1, 8, 35, 5},     {TREE_PINE, 0, 0, 6, 26, 5},
+	    {TREE_PINE, 1, 1, 5, 21, 5},     {TREE_GREEN, 2, 0, 52, 95, 16},
+	    {TREE_ORANGE, 2, 1, 66, 95, 16}, {TREE_RED, 2, 2, 70, 97, 16},
+	    {TREE_RED, 1, 0, 13, 80, 8},     {TREE_GREEN, 1, 1, 13, 80, 8},
+	    {TREE_ORANGE, 0, 0, 43, 68, 10}, {TREE_GREEN, 0, 1, 45, 69, 10},
 	};
 	for (const auto& row : rows) {
 		SCOPED_TRACE(testing::Message() << row.kind << " " << row.size << " " << row.variant);

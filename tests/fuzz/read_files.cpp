@@ -14,7 +14,8 @@ static std::string Folder()
 {
 	static std::string folder;
 	if (folder.empty()) {
-		folder = std::filesystem::temp_directory_path() / ("quorbletfuzz" + std::to_string(getpid()));
+		folder =
+		    std::filesystem::temp_directory_path() / ("quorbletfuzz" + std::to_string(getpid()));
 		SetSaveFolderRoot(folder);
 		std::filesystem::create_directories(SaveFolder());
 		std::filesystem::current_path(folder); // the log goes there

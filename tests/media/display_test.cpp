@@ -58,12 +58,15 @@ TEST_F(DisplayTest, UnknownAndUndecodableImagesAreFatal)
 
 TEST_F(DisplayTest, SoundsInTheImageContainerArePassedOver)
 {
+	CTinyData plain({});
+	display->Preload();
+	const int countBefore = display->ImageLoadingCount();
 	CTinyData mixed({{"a.ogg", Bytes(9)}, {"bwav", Bytes(9)}, {"c.OGG", Bytes(9)}});
 	display->Preload();
 	EXPECT_FALSE(display->HasImage("a.ogg"));
 	EXPECT_FALSE(display->HasImage("bwav"));
 	EXPECT_TRUE(display->HasImage("c.OGG")) << "capitals do not count";
-	EXPECT_EQ(16, display->ImageLoadingCount()) << "all entries count, stored or not";
+	EXPECT_EQ(countBefore + 3, display->ImageLoadingCount()) << "all count, stored or not";
 }
 
 TEST_F(DisplayTest, LoadingBarUncoversItsShare)

@@ -151,6 +151,9 @@ CTinyData::CTinyData(const Container& more) : before(std::filesystem::current_pa
 	    {"clearalpha.tga", PlainTga(20, 20, CLEAR)},
 	    {"large.bmp", PlainBmp(100, 60, BLUE)},
 	};
+	for (const std::string& name : CDisplay::PersistentImageNames())
+		entries.push_back(
+		    {name, name.ends_with("tga") ? PlainTga(1, 1, RED) : PlainBmp(1, 1, RED)});
 	entries.insert(entries.end(), more.begin(), more.end());
 	WriteBytes("resource.dat", ContainerBytes(entries));
 	WriteBytes("loading.dat", PlainBmp(800, 600, BLACK));

@@ -21,7 +21,8 @@ static void PutRating(CGameData& data, int rating)
 
 TEST_F(StateTest, RatingFollowsTheLives)
 {
-	int byLives[] = {8000, 8500, 9000, 9500, 10000, 10300, 10600, 11000, 11300, 11600, 12000, 12000};
+	int byLives[] = {8000,  8500,  9000,  9500,  10000, 10300,
+	                 10600, 11000, 11300, 11600, 12000, 12000};
 	for (int lives = 0; lives < 12; lives++) {
 		g_play.lives = lives;
 		EXPECT_NEAR(byLives[lives], data->SkillRating(), 1) << lives; // cut, so 1 less at times
@@ -42,8 +43,8 @@ TEST_F(StateTest, FinishedLevelAddsByItsTime)
 	struct {
 		int seconds;
 		float gain;
-	} rows[] = {{0, 2.5f}, {29, 2.5f}, {30, 2.25f}, {59, 2.25f}, {60, 2}, {90, 1.5f}, {119, 1.5f},
-	            {120, 1.25f}, {900, 1.25f}};
+	} rows[] = {{0, 2.5f},  {29, 2.5f},  {30, 2.25f},  {59, 2.25f}, {60, 2},
+	            {90, 1.5f}, {119, 1.5f}, {120, 1.25f}, {900, 1.25f}};
 	for (const auto& row : rows) {
 		data->profile.skillSum   = 0;
 		data->profile.skillCount = 19;
@@ -86,8 +87,8 @@ TEST_F(StateTest, BallSpeedStepsWithTheRating)
 	struct {
 		int rating;
 		float factor;
-	} rows[] = {{10000, 1}, {10999, 1}, {11000, 1.026f}, {9001, 1}, {9000, 0.97466f},
-	            {12000, 1.05268f}, {20000, 1.29263f}, {0, 0.77362f}};
+	} rows[] = {{10000, 1},       {10999, 1},        {11000, 1.026f},   {9001, 1},
+	            {9000, 0.97466f}, {12000, 1.05268f}, {20000, 1.29263f}, {0, 0.77362f}};
 	for (const auto& row : rows) {
 		PutRating(*data, row.rating);
 		EXPECT_NEAR(row.factor, data->BallSpeedFactor(), 1e-4) << row.rating;
@@ -132,10 +133,10 @@ TEST(Difficulty, SpawnIntervalShrinksWithTime)
 {
 	struct {
 		int rating, seconds, lives, interval;
-	} rows[] = {{2500, 0, 4, 10}, {2501, 0, 4, 15}, {7500, 0, 4, 20}, {10000, 0, 4, 30},
-	            {12500, 0, 4, 40}, {12501, 90, 4, 50}, {12501, 91, 4, 16}, {12501, 135, 4, 16},
+	} rows[] = {{2500, 0, 4, 10},    {2501, 0, 4, 15},    {7500, 0, 4, 20},   {10000, 0, 4, 30},
+	            {12500, 0, 4, 40},   {12501, 90, 4, 50},  {12501, 91, 4, 16}, {12501, 135, 4, 16},
 	            {12501, 136, 4, 12}, {12501, 181, 4, 10}, {12501, 226, 4, 8}, {12501, 406, 4, 8},
-	            {12501, 0, 0, 25}, {10000, 0, 0, 15}, {2500, 0, 0, 8}};
+	            {12501, 0, 0, 25},   {10000, 0, 0, 15},   {2500, 0, 0, 8}};
 	for (const auto& row : rows)
 		EXPECT_EQ(row.interval, SpawnIntervalOf({row.rating, row.seconds, 0, row.lives}))
 		    << row.rating << " at " << row.seconds << " s with " << row.lives;
@@ -151,17 +152,18 @@ static std::vector<int> Weights(int rating, int seconds, int standing, int lives
 TEST(Difficulty, PowerupWeightsAreThoseOfTheTable)
 {
 	typedef std::vector<int> Row;
-	EXPECT_EQ((Row{0, 0, 0, 0, 0, 5, 5, 0, 0, 8, 5, 1, 0, 15, 0, 1, 5, 0}), Weights(7500, 29, 9, 4));
+	EXPECT_EQ((Row{0, 0, 0, 0, 0, 5, 5, 0, 0, 8, 5, 1, 0, 15, 0, 1, 5, 0}),
+	          Weights(7500, 29, 9, 4));
 	EXPECT_EQ((Row{0, 0, 0, 0, 0, 5, 5, 0, 0, 8, 0, 1, 0, 1, 0, 1, 5, 0}), Weights(7500, 60, 9, 4));
 	EXPECT_EQ((Row{0, 0, 0, 0, 0, 5, 5, 0, 0, 8, 0, 1, 0, 1, 0, 1, 9, 0}), Weights(7500, 90, 9, 4));
 	EXPECT_EQ((Row{0, 2, 2, 1, 1, 3, 3, 2, 1, 3, 1, 3, 0, 3, 1, 2, 3, 2}), Weights(12500, 0, 9, 4));
 	EXPECT_EQ((Row{0, 0, 0, 2, 3, 0, 1, 1, 0, 1, 0, 0, 0, 0, 0, 2, 0, 4}), Weights(12501, 0, 9, 4));
 	struct {
 		int standing, bulldozer, destructo, gravity;
-	} late[] = {{0, 0, 0, 1}, {1, 0, 1, 0}, {3, 0, 1, 0}, {4, 1, 1, 0}, {19, 1, 1, 0},
-	            {20, 1, 0, 0}, {21, 2, 0, 0}};
+	} late[] = {{0, 0, 0, 1},  {1, 0, 1, 0},  {3, 0, 1, 0}, {4, 1, 1, 0},
+	            {19, 1, 1, 0}, {20, 1, 0, 0}, {21, 2, 0, 0}};
 	for (const auto& row : late) {
-		Row weights                = Weights(9000, 91, row.standing, 1);
+		Row weights = Weights(9000, 91, row.standing, 1);
 		Row expected(POWERUP_KINDS);
 		expected[POWERUP_BULLDOZER] = row.bulldozer;
 		expected[POWERUP_DESTRUCTO] = row.destructo;
@@ -175,7 +177,7 @@ TEST(Difficulty, LifeFallsOnlyForThoseWhoNeedIt)
 {
 	struct {
 		int rating, seconds, lives, weight;
-	} rows[] = {{2499, 0, 3, 2}, {2499, 0, 4, 0}, {2500, 0, 3, 0}, {19000, 0, 1, 2},
+	} rows[] = {{2499, 0, 3, 2},  {2499, 0, 4, 0},   {2500, 0, 3, 0},   {19000, 0, 1, 2},
 	            {19000, 0, 2, 0}, {19000, 89, 1, 2}, {19000, 90, 1, 0}, {19000, 91, 0, 0}};
 	for (const auto& row : rows)
 		EXPECT_EQ(row.weight, Weights(row.rating, row.seconds, 9, row.lives)[POWERUP_LIFE])

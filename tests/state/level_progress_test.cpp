@@ -15,27 +15,33 @@ TEST_F(StateTest, PercentNeverRoundsUpToAHundred)
 
 TEST_F(StateTest, ReplayTakesBackWhatTheFirstPlayGave)
 {
+	data->profile.levels[0].score = 50;
 	data->OnLevelStart(5);
-	SetPlayScore(900);
 	data->SetLevelScore(900);
 	data->SetLevelRescues(30);
 	data->SetLevelExtraLives(2);
+	data->ApplyTotalScore();
 	g_play.lives           = 6;
 	data->extraLifeCounter = 30;
 
 	data->OnLevelStart(6);
-	EXPECT_EQ(900, g_play.levelScore) << "another level takes nothing";
-	EXPECT_EQ(900, data->levelScoreAtStart);
-	SetPlayScore(1000);
+	EXPECT_EQ(950, g_play.levelScore) << "another level takes nothing";
+	EXPECT_EQ(950, data->levelScoreAtStart);
+	SetPlayScore(1050);
 	EXPECT_EQ(100, data->ScoreGainedThisLevel());
+	data->SetLevelScore(100);
 
 	data->OnLevelRestart(5);
-	EXPECT_EQ(100, g_play.levelScore);
+	EXPECT_EQ(150, g_play.levelScore);
 	EXPECT_EQ(4, g_play.lives);
 	EXPECT_EQ(0, data->extraLifeCounter);
-	data->OnLevelRestart(5);
-	EXPECT_EQ(100, g_play.levelScore) << "and that only once";
+	data->OnLevelStart(5);
+	EXPECT_EQ(150, g_play.levelScore) << "and that only once";
 	EXPECT_EQ(4, g_play.lives);
+	data->ApplyTotalScore();
+	EXPECT_EQ(1050, g_play.levelScore) << "a replay given up keeps the first score";
+	data->SetLevelScore(10);
+	EXPECT_EQ(160, data->TotalScore());
 }
 
 TEST_F(StateTest, RecordsAreWrittenOnlyWithinALevel)

@@ -36,8 +36,8 @@ TEST_F(StateTest, FreshFolderGivesDefaults)
 // The table of offsets is a contract with files that lie on players' disks.
 TEST_F(StateTest, EveryValueLiesAtItsOffset)
 {
-	ProfileRecord& profile = data->profile;
-	profile.reserved[255]  = 77;
+	ProfileRecord& profile     = data->profile;
+	profile.reserved[255]      = 77;
 	profile.sanctuaryLastVisit = 1000;
 	profile.sanctuaryFund      = 1001;
 	for (int i = 0; i < CONTROL_KEYS; i++)
@@ -45,7 +45,7 @@ TEST_F(StateTest, EveryValueLiesAtItsOffset)
 	profile.soundVolume = 3;
 	profile.musicVolume = 4;
 	profile.hintPagesOn = profile.kidsBarrierOn = profile.systemCursorOn = 0;
-	profile.mouseSpeed                                                  = 1.4f;
+	profile.mouseSpeed                                                   = 1.4f;
 	profile.instructionsSeen = profile.slowMachineHintShown = 1;
 	profile.skillSum                                        = 2.25f;
 	profile.skillAverage                                    = 4.5f;
@@ -57,7 +57,7 @@ TEST_F(StateTest, EveryValueLiesAtItsOffset)
 	profile.species13Rescued                                = 13;
 	profile.species5Rescued                                 = 5;
 	profile.species8Rescued                                 = 8;
-	profile.levels[181] = {1, 1, 0, 1, 1, 9001, 9002, 3};
+	profile.levels[181]                                     = {1, 1, 0, 1, 1, 9001, 9002, 3};
 	profile.speciesRescued[0]                               = 61;
 	profile.speciesRescued[63]                              = 62;
 	profile.kidsMode                                        = 0;
@@ -74,18 +74,41 @@ TEST_F(StateTest, EveryValueLiesAtItsOffset)
 	struct {
 		size_t offset;
 		int value;
-	} ints[] = {{256, 1000}, {260, 1001}, {264, 100}, {276, 103}, {280, 3}, {284, 4}, {308, 7},
-	            {312, 0x25262728}, {316, 0x21222324}, {320, 0x35363738}, {328, 0x45464748},
-	            {336, 0x55565758}, {340, 0x51525354}, {344, 13}, {348, 5}, {352, 8},
-	            {lastLevel, 1}, {lastLevel + 8, 9001}, {lastLevel + 12, 9002}, {lastLevel + 16, 3},
-	            {3996, 61}, {4248, 62}, {4252, 0}, {4256, 1}, {4260, 71}, {4264, 72}, {4268, 6}};
+	} ints[] = {{256, 1000},
+	            {260, 1001},
+	            {264, 100},
+	            {276, 103},
+	            {280, 3},
+	            {284, 4},
+	            {308, 7},
+	            {312, 0x25262728},
+	            {316, 0x21222324},
+	            {320, 0x35363738},
+	            {328, 0x45464748},
+	            {336, 0x55565758},
+	            {340, 0x51525354},
+	            {344, 13},
+	            {348, 5},
+	            {352, 8},
+	            {lastLevel, 1},
+	            {lastLevel + 8, 9001},
+	            {lastLevel + 12, 9002},
+	            {lastLevel + 16, 3},
+	            {3996, 61},
+	            {4248, 62},
+	            {4252, 0},
+	            {4256, 1},
+	            {4260, 71},
+	            {4264, 72},
+	            {4268, 6}};
 	for (const auto& row : ints)
 		EXPECT_EQ(row.value, IntAt(bytes, row.offset)) << "offset " << row.offset;
 	struct {
 		size_t offset;
 		int value;
-	} flags[] = {{255, 77}, {288, 0}, {289, 1}, {290, 0}, {291, 1}, {292, 0}, {297, 1}, {298, 0},
-	             {299, 1}, {lastLevel + 4, 1}, {lastLevel + 5, 0}, {lastLevel + 6, 1},
+	} flags[] = {{255, 77},         {288, 0},           {289, 1},           {290, 0},
+	             {291, 1},          {292, 0},           {297, 1},           {298, 0},
+	             {299, 1},          {lastLevel + 4, 1}, {lastLevel + 5, 0}, {lastLevel + 6, 1},
 	             {lastLevel + 7, 1}};
 	for (const auto& row : flags)
 		EXPECT_EQ(row.value, bytes[row.offset]) << "offset " << row.offset;
@@ -96,17 +119,17 @@ TEST_F(StateTest, EveryValueLiesAtItsOffset)
 
 TEST_F(StateTest, LoadThenSaveReproducesTheFile)
 {
-	data->profile.levels[3]  = {1, 1, 1, 1, 0, 12345, 17, 2};
-	data->profile.skillSum   = -0.15f;
-	data->profile.mouseSpeed = 0.15f;
+	data->profile.levels[3]   = {1, 1, 1, 1, 0, 12345, 17, 2};
+	data->profile.skillSum    = -0.15f;
+	data->profile.mouseSpeed  = 0.15f;
 	data->profile.reserved[9] = 200;
-	data->profile.trophies   = 1ULL << 37;
-	g_play.money             = 4321;
-	g_play.spareCounter      = -5;
+	data->profile.trophies    = 1ULL << 37;
+	g_play.money              = 4321;
+	g_play.spareCounter       = -5;
 	data->SaveProfile();
 	std::vector<unsigned char> before = ReadBytes(ProfilePath(0));
-	g_play = PlayCounters();
-	data->profile = ProfileRecord();
+	g_play                            = PlayCounters();
+	data->profile                     = ProfileRecord();
 	data->LoadProfile();
 	data->SaveProfile();
 	EXPECT_EQ(before, ReadBytes(ProfilePath(0)));
@@ -135,14 +158,14 @@ TEST_F(StateTest, IslandsAndCounterAreDerivedAtLoad)
 
 TEST_F(StateTest, ShortFileKeepsDefaultsForWhatIsMissing)
 {
-	data->profile.soundVolume = 2;
-	g_play.lives              = 9;
+	data->profile.soundVolume     = 2;
+	g_play.lives                  = 9;
 	data->profile.levels[0].score = 500;
 	data->SaveProfile();
 	std::vector<unsigned char> bytes = ReadBytes(ProfilePath(0));
 	for (size_t length : {size_t(0), size_t(10), size_t(282), size_t(286), size_t(4271)}) {
 		SCOPED_TRACE(length);
-		WriteBytes(ProfilePath(0), {bytes.begin(), bytes.begin() + static_cast<long>(length)});
+		WriteSavedBytes(ProfilePath(0), {bytes.begin(), bytes.begin() + static_cast<long>(length)});
 		data->LoadProfile();
 		EXPECT_EQ(length >= 284 ? 2 : 11, data->GetSoundVolume());
 		EXPECT_EQ(5, data->GetMusicVolume());
@@ -160,7 +183,7 @@ TEST_F(StateTest, RandomBytesComeIntoRange)
 		std::vector<unsigned char> bytes(PROFILE_BYTES);
 		for (unsigned char& byte : bytes)
 			byte = seed == 1 ? 0xff : static_cast<unsigned char>(Rand());
-		WriteBytes(ProfilePath(0), bytes);
+		WriteSavedBytes(ProfilePath(0), bytes);
 		data->LoadProfile();
 		for (int i = 0; i < CONTROL_KEYS; i++)
 			EXPECT_TRUE(data->GetKey(i) > 0 && data->GetKey(i) < SDLK_LAST);
@@ -213,7 +236,7 @@ TEST_F(StateTest, LeavesNoSecondFileBehind)
 TEST_F(StateTest, FolderThatCannotBeWrittenIsFatal)
 {
 	CTempFolder other;
-	WriteBytes(other.path + "Ondrel", {1});
+	WriteSavedBytes(other.path + "Ondrel", {1});
 	SetSaveFolderRoot(other.path);
 	EXPECT_EXIT(data->SaveProfile(), testing::ExitedWithCode(1), "");
 	SetSaveFolderRoot(home.path);

@@ -130,13 +130,13 @@ TEST_F(StateTest, WrongCountLosesNobody)
 	for (unsigned count : {4000000000u, 300u, 0u, 1u}) {
 		std::vector<unsigned char> bytes = whole;
 		PutInt(bytes, 16, count);
-		WriteBytes(ListPath(), bytes);
+		WriteSavedBytes(ListPath(), bytes);
 		data->LoadProfileList();
 		EXPECT_EQ((std::vector<std::string>{"PLAYER 1", "B"}), Names(*data)) << count;
 		EXPECT_STREQ("B", data->CurrentProfileName());
 	}
 	whole.resize(HEADER_BYTES + RECORD_BYTES + 10); // cut in the second record
-	WriteBytes(ListPath(), whole);
+	WriteSavedBytes(ListPath(), whole);
 	data->LoadProfileList();
 	EXPECT_EQ(std::vector<std::string>{"PLAYER 1"}, Names(*data));
 	EXPECT_STREQ("PLAYER 1", data->CurrentProfileName()) << "the current one was not in the list";
@@ -152,7 +152,7 @@ TEST_F(StateTest, ThreeHundredPlayersAreKept)
 		PutInt(bytes, HEADER_BYTES + i * RECORD_BYTES, i);
 		bytes[HEADER_BYTES + i * RECORD_BYTES + 4] = static_cast<unsigned char>('A' + i % 26);
 	}
-	WriteBytes(ListPath(), bytes);
+	WriteSavedBytes(ListPath(), bytes);
 	data->LoadProfileList();
 	EXPECT_EQ(300, data->ProfileCount()) << "names that stand twice are told apart";
 	EXPECT_EQ(300u, data->profileNameByNumber.size());
@@ -165,13 +165,13 @@ TEST_F(StateTest, DamagedNamesAndNumbersAreHandled)
 	PutInt(bytes, HEADER_BYTES + RECORD_BYTES, 3);     // the same number again
 	PutInt(bytes, HEADER_BYTES + 2 * RECORD_BYTES, 4); // an empty name
 	bytes[HEADER_BYTES + 2 * RECORD_BYTES + 4] = 0;
-	WriteBytes(ListPath(), bytes);
+	WriteSavedBytes(ListPath(), bytes);
 	data->LoadProfileList();
 	EXPECT_EQ((std::vector<std::string>{std::string(15, '?'), "PLAYER 1"}), Names(*data));
 	EXPECT_EQ(4, data->lastProfileNumber);
 
 	for (size_t length = 0; length < 60; length += 7) {
-		WriteBytes(ListPath(), std::vector<unsigned char>(length, 0xff));
+		WriteSavedBytes(ListPath(), std::vector<unsigned char>(length, 0xff));
 		data->LoadProfileList();
 		EXPECT_EQ(1, data->ProfileCount()) << length;
 		EXPECT_NE(nullptr, data->CurrentProfileName());

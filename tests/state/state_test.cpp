@@ -35,7 +35,7 @@ std::vector<unsigned char> ReadBytes(const std::string& path)
 	return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
-void WriteBytes(const std::string& path, const std::vector<unsigned char>& bytes)
+void WriteSavedBytes(const std::string& path, const std::vector<unsigned char>& bytes)
 {
 	std::ofstream file(path, std::ios::binary);
 	file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<long>(bytes.size()));

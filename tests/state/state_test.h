@@ -32,5 +32,5 @@ protected:
 };
 
 std::vector<unsigned char> ReadBytes(const std::string& path);
-void WriteBytes(const std::string& path, const std::vector<unsigned char>& bytes);
+void WriteSavedBytes(const std::string& path, const std::vector<unsigned char>& bytes);
 int IntAt(const std::vector<unsigned char>& bytes, size_t offset); // little-endian

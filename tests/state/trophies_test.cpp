@@ -79,8 +79,8 @@ TEST_F(StateTest, StreaksCountConsecutiveLevels)
 		int level;
 		int count;
 		bool bonus;
-	} plays[] = {{1, 1, false}, {2, 2, false}, {3, 2, true}, {4, 3, false}, {9, 0, false},
-	             {10, 1, false}, {11, 2, false}};
+	} plays[] = {{1, 1, false}, {2, 2, false},  {3, 2, true},  {4, 3, false},
+	             {9, 0, false}, {10, 1, false}, {11, 2, false}};
 	for (const auto& play : plays) {
 		PlayLevel(*data, play.level, 100, play.bonus);
 		EXPECT_EQ(play.count, data->streakCount) << "after level " << play.level;

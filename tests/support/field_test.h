@@ -23,15 +23,15 @@ protected:
 
 	// Panel, paddle, ball, shield and physics, made and published in the level runner's order.
 	void MakeBallAndPaddle();
-	void Tick(int frames = 1);    // the elements only
-	void Play(int frames = 1);    // physics, then the elements
+	void Tick(int frames = 1);                          // the elements only
+	void Play(int frames = 1);                          // physics, then the elements
 	void PutBall(float x, float y, float vx, float vy); // in flight
-	void SetBallStage(int stage); // with no sound and no easing
+	void SetBallStage(int stage);                       // with no sound and no easing
 
 	static std::unique_ptr<CWorld> s_world;
-	CSidebar* sidebar    = nullptr;
-	CPaddle* paddle      = nullptr;
-	CBall* ball          = nullptr;
-	CBarrier* barrier    = nullptr;
+	CSidebar* sidebar = nullptr;
+	CPaddle* paddle   = nullptr;
+	CBall* ball       = nullptr;
+	CBarrier* barrier = nullptr;
 	std::unique_ptr<BallPhysics> physics;
 };

@@ -18,12 +18,12 @@
 static const float BUMPER_MIDDLE   = 36;  // from the paddle's x, pixels
 static const float BUMPER_TOP      = 520; // y where the ball meets the bumper
 static const float WINDOW_TO_FIELD = 693.0f / 800.0f;
-static const float BODY_SHIFT      = 38;  // the mouse stands this far right of the paddle's x
-static const float STEEPEST_OFFSET = 26;  // the bumper's outer parts throw the ball too flat
-static const float OFFSET_PER_TURN = 5;   // pixels that the aim wanders
-static const int LAUNCH_WAIT       = 12;  // frames the ball is held before a launch
+static const float BODY_SHIFT      = 38; // the mouse stands this far right of the paddle's x
+static const float STEEPEST_OFFSET = 26; // the bumper's outer parts throw the ball too flat
+static const float OFFSET_PER_TURN = 5;  // pixels that the aim wanders
+static const int LAUNCH_WAIT       = 12; // frames the ball is held before a launch
 static const int PRESS_FRAMES      = 2;
-static const int PRIZE_ROOM        = 25;  // frames that a detour to a prize needs
+static const int PRIZE_ROOM        = 25; // frames that a detour to a prize needs
 
 void CBot::Reset()
 {

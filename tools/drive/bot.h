@@ -12,7 +12,7 @@ public:
 	// What to do before the coming frame. Returns true when there is a running level to play.
 	bool Think();
 
-	int mouseX       = 400;   // where the pointer should be, pixels of the window
+	int mouseX      = 400;   // where the pointer should be, pixels of the window
 	bool buttonDown = false; // the left button
 
 private:

@@ -14,10 +14,10 @@
 #include <cstdlib>
 #include <strings.h>
 
-static const int UNTIL_FRAMES  = 3000; // an until waits so long by default
-static const int CLICK_FRAMES  = 3;    // move, press, release
-static const int LEVEL_PATIENCE = 900; // frames until a menu must have come up
-static const int SKIP_EVERY    = 20;   // frames between two keys that skip the splash
+static const int UNTIL_FRAMES   = 3000; // an until waits so long by default
+static const int CLICK_FRAMES   = 3;    // move, press, release
+static const int LEVEL_PATIENCE = 900;  // frames until a menu must have come up
+static const int SKIP_EVERY     = 20;   // frames between two keys that skip the splash
 
 CDriver::CDriver(const std::vector<ScriptCommand>& newScript, CVirtualClock* newClock,
                  const std::string& newFolder)
@@ -243,13 +243,13 @@ void CDriver::RunBot()
 
 void CDriver::PushMotion(int x, int y)
 {
-	SDL_Event event    = {};
-	event.type         = SDL_MOUSEMOTION;
-	event.motion.x     = static_cast<Uint16>(std::clamp(x, 0, 799));
-	event.motion.y     = static_cast<Uint16>(std::clamp(y, 0, 599));
-	float speed        = std::max(g_input->speed, 0.01f);
-	event.motion.xrel  = static_cast<Sint16>((x - g_input->x) / speed);
-	event.motion.yrel  = static_cast<Sint16>((y - g_input->y) / speed);
+	SDL_Event event   = {};
+	event.type        = SDL_MOUSEMOTION;
+	event.motion.x    = static_cast<Uint16>(std::clamp(x, 0, 799));
+	event.motion.y    = static_cast<Uint16>(std::clamp(y, 0, 599));
+	float speed       = std::max(g_input->speed, 0.01f);
+	event.motion.xrel = static_cast<Sint16>((x - g_input->x) / speed);
+	event.motion.yrel = static_cast<Sint16>((y - g_input->y) / speed);
 	SDL_PushEvent(&event);
 }
 

@@ -50,12 +50,12 @@ private:
 	std::vector<ScriptCommand> script;
 	CVirtualClock* clock; // not owned
 	std::string folder;
-	size_t next     = 0; // command
-	int waited      = 0; // frames spent in it
-	bool botOn      = false;
-	bool botPressed = false;
-	bool stopped    = false;
-	int modifiers   = 0; // SDL key modifiers now held
+	size_t next              = 0; // command
+	int waited               = 0; // frames spent in it
+	bool botOn               = false;
+	bool botPressed          = false;
+	bool stopped             = false;
+	int modifiers            = 0; // SDL key modifiers now held
 	unsigned int ticksBefore = 0;
 	CBot bot;
 };

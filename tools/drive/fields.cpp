@@ -37,9 +37,9 @@ static std::string BallNumber(float CBall::*member)
 
 static int LiveAnimals()
 {
-	return static_cast<int>(std::count_if(CElementAnimal::AnimalList.begin(),
-	                                      CElementAnimal::AnimalList.end(),
-	                                      [](const CElementAnimal* animal) { return !animal->dead; }));
+	return static_cast<int>(
+	    std::count_if(CElementAnimal::AnimalList.begin(), CElementAnimal::AnimalList.end(),
+	                  [](const CElementAnimal* animal) { return !animal->dead; }));
 }
 
 typedef std::string (*FieldReader)();

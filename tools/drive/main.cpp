@@ -19,7 +19,7 @@ static const char* s_usage =
 
 struct DriveOptions {
 	std::string mode, home, script;
-	std::string data   = QUORBLET_DATA;
+	std::string data  = QUORBLET_DATA;
 	unsigned int seed = 1;
 	bool realtime     = false;
 };

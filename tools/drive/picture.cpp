@@ -16,7 +16,7 @@ bool SaveScreen(const std::string& path)
 	for (int y = 0; y < screen->h; y++) {
 		const Uint8* line = static_cast<const Uint8*>(screen->pixels) + y * screen->pitch;
 		for (int x = 0; x < screen->w; x++) {
-			Uint32 pixel = *reinterpret_cast<const Uint32*>(line + x * 4);
+			Uint32 pixel      = *reinterpret_cast<const Uint32*>(line + x * 4);
 			unsigned char* to = &rows[(static_cast<size_t>(y) * screen->w + x) * 3];
 			SDL_GetRGB(pixel, screen->format, to, to + 1, to + 2);
 		}

@@ -47,8 +47,8 @@ static bool CheckForm(const ScriptCommand& command, std::string& problem)
 {
 	const CommandForm* form = FindForm(command.word);
 	int count               = static_cast<int>(command.args.size());
-	bool wrongWithin        = command.word == "until" && count > 3 &&
-	                   (count != 5 || command.args[3] != "within");
+	bool wrongWithin =
+	    command.word == "until" && count > 3 && (count != 5 || command.args[3] != "within");
 	if (form && count >= form->fewest && count <= form->most && !wrongWithin)
 		return true;
 	problem = "line " + std::to_string(command.line) + ": " + command.text + ": ";

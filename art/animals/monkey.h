@@ -1,0 +1,7 @@
+// The monkey.
+#pragma once
+
+#include "art/animals/biped.h"
+#include "art/animals/figure.h"
+
+Species Monkey();

@@ -1,0 +1,12 @@
+// Tails of four-footed mammals.
+#pragma once
+
+#include "art/animals/quadruped.h"
+
+struct TailPlace {
+	Vec3 root;
+	float swing, raise;              // sideways and upward
+	int coat, plainCoat, mane, tip; // materials
+};
+
+void AddTail(Model& model, const Quadruped& animal, const TailPlace& place);
