@@ -1,6 +1,25 @@
 // Calls the entry points of all families, in order.
 #include "art/families.h"
 
+void AddSounds(Catalogue& catalogue)
+{
+	AddFarmSounds(catalogue);
+	AddYardSounds(catalogue);
+	AddWildSounds(catalogue);
+	AddMarshSounds(catalogue);
+	AddBirdSounds(catalogue);
+	AddMotionSounds(catalogue);
+	AddBubbleSounds(catalogue);
+	AddPrizeSounds(catalogue);
+	AddInterfaceSounds(catalogue);
+	AddWoodSounds(catalogue);
+	AddMetalSounds(catalogue);
+	AddMachineSounds(catalogue);
+	AddSaucerSounds(catalogue);
+	AddWeatherSounds(catalogue);
+	AddSignals(catalogue);
+}
+
 void AddEverything(Catalogue& catalogue)
 {
 	AddPanel(catalogue);
@@ -35,4 +54,7 @@ void AddEverything(Catalogue& catalogue)
 	AddDuckling(catalogue);
 	AddButterflies(catalogue);
 	AddPortraits(catalogue);
+
+	AddSounds(catalogue);
+	AddMusic(catalogue);
 }

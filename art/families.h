@@ -40,5 +40,26 @@ void AddDuckling(Catalogue& catalogue);
 void AddButterflies(Catalogue& catalogue);
 void AddPortraits(Catalogue& catalogue); // in the side panel: faces, closed lids, names
 
+// what is heard
+void AddFarmSounds(Catalogue& catalogue);      // cow, sheep, goat, pig, horse, donkey
+void AddYardSounds(Catalogue& catalogue);      // dog, cat, mouse, chicken, duck, goose
+void AddWildSounds(Catalogue& catalogue);      // wolf, bear, tiger, elephant, monkey, hyena
+void AddMarshSounds(Catalogue& catalogue);     // seal, walrus, hippo, moose, camel, frog
+void AddBirdSounds(Catalogue& catalogue);      // crow, owl, songbird, birds of prey, penguin
+void AddMotionSounds(Catalogue& catalogue);    // feet, falls, sprays, the rattle
+void AddBubbleSounds(Catalogue& catalogue);    // the ball and the balloons
+void AddPrizeSounds(Catalogue& catalogue);     // animals, coins and prizes gathered
+void AddInterfaceSounds(Catalogue& catalogue); // presses, counting, flyaways
+void AddWoodSounds(Catalogue& catalogue);      // crates and barrels
+void AddMetalSounds(Catalogue& catalogue);     // drums and robots
+void AddMachineSounds(Catalogue& catalogue);   // ray, shield, fan
+void AddSaucerSounds(Catalogue& catalogue);    // the saucer and its pilot
+void AddWeatherSounds(Catalogue& catalogue);   // rain, hail, crickets, thunder
+void AddSignals(Catalogue& catalogue);         // level won and lost, trophy, quiz
+
+// Every entry point of the effects above.
+void AddSounds(Catalogue& catalogue);
+void AddMusic(Catalogue& catalogue); // eleven pieces, each a file beside the program
+
 // Calls every entry point above, in order.
 void AddEverything(Catalogue& catalogue);

@@ -1,4 +1,4 @@
-// The forge: draws every picture of the game and writes the files that it is played from.
+// The forge: makes every picture and sound of the game and writes the files it is played from.
 #include "art/core/container.h"
 #include "art/core/files.h"
 #include "art/core/lettering.h"
@@ -219,7 +219,7 @@ int main(int count, char** words)
 		pictures.push_back(std::move(p));
 	if (!WriteAll(order.out, std::move(pictures)))
 		return 1;
-	std::printf("forge: %d groups drawn, %d unchanged; %zu pictures, %zu stand-ins\n",
+	std::printf("forge: %d groups drawn, %d unchanged; %zu pictures and sounds, %zu stand-ins\n",
 	            workshop.drawn, workshop.reused, drawn, undrawn.size());
 	return order.strict && !undrawn.empty() ? 1 : 0;
 }

@@ -5,6 +5,7 @@
 #include "art/core/files.h"
 #include "art/core/palette.h"
 #include "art/core/stamps.h"
+#include "tools/sheet_sounds.h"
 
 #include <cstdio>
 #include <cstring>
@@ -14,7 +15,8 @@ static const int DEFAULT_WIDTH = 1200;
 
 static const char* const USAGE =
     "sheet PREFIX OUT.png [--data DIR] [--zoom N] [--ground grass|sand|snow|night|checker]\n"
-    "      [--columns N] [--bare]\n";
+    "      [--columns N] [--bare]\n"
+    "sheet --sounds OUT.png [PREFIX] [--data DIR]\n";
 
 namespace
 {
@@ -107,6 +109,8 @@ static std::vector<At> LayOut(const std::vector<Entry>& entries, const Order& or
 
 int main(int count, char** words)
 {
+	if (count > 1 && !std::strcmp(words[1], "--sounds"))
+		return DrawSoundSheet(count, words);
 	Order order;
 	if (!ReadOrder(count, words, order)) {
 		std::fputs(USAGE, stderr);

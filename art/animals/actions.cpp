@@ -6,11 +6,6 @@ float Ease(float t)
 	return Smoothstep(0, 1, t);
 }
 
-float Jolt(float t)
-{
-	return std::sin(PI * std::pow(t, .6f)) * (1 - .25f * t) - .12f * std::sin(2 * PI * t) * t;
-}
-
 float Part(int i, int count)
 {
 	return count > 1 ? i / (count - 1.f) : 0;
@@ -82,8 +77,7 @@ Poses Graze(int count)
 	for (int i = 0; i < count; i++) {
 		float a          = 2 * PI * i / count;
 		list[i].headDown = 1;
-		list[i].chew     = std::sin(a);
-		list[i].mouth    = i % 2 ? .22f : 0;
+		list[i].chew     = 1.3f * std::sin(a);
 	}
 	return list;
 }
@@ -92,8 +86,8 @@ Poses Stagger(int count)
 {
 	Poses list(count);
 	for (int i = 0; i < count; i++) {
-		float t = Part(i, count);
-		Pose& p = list[i];
+		float t    = Part(i, count);
+		Pose& p    = list[i];
 		p.squash   = i == 0 ? 3 : 2.2f * std::sin(t * 2 * PI) * (1 - t);
 		p.wideEyes = .35f * std::sin(t * PI);
 		p.headTip  = -.30f * std::sin(t * 2 * PI);
@@ -107,16 +101,16 @@ Poses Squawk(int count)
 {
 	Poses list(count);
 	for (int i = 0; i < count; i++) {
-		float t    = Part(i, count);
+		float t     = Part(i, count);
 		bool during = i > 0 && i < count - 1;
-		float beat = std::fabs(std::sin(t * 3 * PI)) * (1 - .3f * t);
-		Pose& p    = list[i];
-		p.squash   = i == 0 ? 2 : 0;
-		p.armsUp   = during ? Clamp01(.15f + beat) : 0;
-		p.mouth    = during && i < count - 2 ? .9f : 0;
-		p.rise     = 3 * std::sin(t * PI);
-		p.ruffle   = .4f * std::sin(t * PI);
-		p.headTip  = .15f * std::sin(t * PI);
+		float beat  = std::fabs(std::sin(t * 3 * PI)) * (1 - .3f * t);
+		Pose& p     = list[i];
+		p.squash    = i == 0 ? 2 : 0;
+		p.armsUp    = during ? Clamp01(.15f + beat) : 0;
+		p.mouth     = during && i < count - 2 ? .9f : 0;
+		p.rise      = 3 * std::sin(t * PI);
+		p.ruffle    = .4f * std::sin(t * PI);
+		p.headTip   = .15f * std::sin(t * PI);
 	}
 	return list;
 }

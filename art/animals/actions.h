@@ -19,7 +19,5 @@ Poses Stagger(int count); // the bump of those that have no gesture of their own
 Poses Squawk(int count);  // wings up, bill open, a hop
 
 float Ease(float t);
-// Quick up and slow down, with one small overshoot below zero; t 0..1.
-float Jolt(float t);
 // t of picture i of count: 0 for the first, 1 for the last.
 float Part(int i, int count);

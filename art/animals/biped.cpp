@@ -79,7 +79,7 @@ void BipedBuilder::PlaceTrunk()
 	if (OnAllFours()) {
 		float rock = std::sin(phase * 2 * PI) * GALLOP_ROCK;
 		hip        = {-3, figure.hipHeight + 4.2f - rock + pose.rise, 0};
-		chest      = {-3 + figure.torso * 1.05f, figure.hipHeight + 6.0f + rock * .8f + pose.rise, 0};
+		chest = {-3 + figure.torso * 1.05f, figure.hipHeight + 6.0f + rock * .8f + pose.rise, 0};
 	} else if (running) {
 		hip.y += std::fabs(std::sin(phase * 2 * PI)) - .5f;
 		chest = hip + Vec3{1.4f, figure.torso, 0};
@@ -101,10 +101,10 @@ int BipedBuilder::TrunkMaterial()
 		    Vec3 p      = s.position - at;
 		    float r     = b.hip;
 		    float ahead = p.x - p.y * .12f - .4f;
-		    float front = below ? Smoothstep(-.3f, -.7f, s.normal.y)
-		                        : Smoothstep(r * .42f, r * .62f, ahead);
-		    Colour c    = Mix(outer, HexColour(b.belly), front);
-		    float z     = std::fabs(p.z);
+		    float front =
+		        below ? Smoothstep(-.3f, -.7f, s.normal.y) : Smoothstep(r * .42f, r * .62f, ahead);
+		    Colour c = Mix(outer, HexColour(b.belly), front);
+		    float z  = std::fabs(p.z);
 		    if (b.backStripes <= 0 || z < r * .45f || front > .3f)
 			    return c;
 		    float band = std::fabs(z - r * .72f);
@@ -126,7 +126,7 @@ void BipedBuilder::AddHeadOnTop()
 		centre = chest + Vec3{-.6f, r * .80f, -chest.z * .4f};
 		turn   = 0;
 	}
-	centre = centre + Vec3{pose.headDown * r * .5f, -pose.headDown * r * .45f, 0};
+	centre     = centre + Vec3{pose.headDown * r * .5f, -pose.headDown * r * .45f, 0};
 	float tilt = pose.fit > 0 ? .20f * std::sin(pose.fit * 4 * PI) : 0;
 	Mat3 axes  = TurnY(Radians(pose.look * 48 + turn) * view.TowardViewer()) *
 	            TurnZ(pose.headTip - pose.headDown * .5f) * TurnX(tilt);
@@ -139,7 +139,8 @@ void BipedBuilder::AddHeadOnTop()
 Reach BipedBuilder::Sitting(int s) const
 {
 	Vec3 hand = {hip.x + figure.handForward, hip.y + figure.handHeight, s * figure.chest * .82f};
-	Vec3 foot = {hip.x + figure.hip * 1.12f, figure.foot * .75f + pose.rise, s * figure.hip * 1.02f};
+	Vec3 foot = {hip.x + figure.hip * 1.12f, figure.foot * .75f + pose.rise,
+	             s * figure.hip * 1.02f};
 	return {hand, foot, {-.4f, -.4f, s * 1.f}, {.5f, 1, s * .5f}};
 }
 
@@ -159,7 +160,7 @@ Reach BipedBuilder::Upright(int s) const
 Reach BipedBuilder::Galloping(int s) const
 {
 	float lag = s == (int)view.NearSide() ? .12f : 0;
-	float a   = std::fmod(phase + lag, 1.f) * 2 * PI, b = a + PI * .8f;
+	float a = std::fmod(phase + lag, 1.f) * 2 * PI, b = a + PI * .8f;
 	float handY = figure.hand + pose.rise + std::max(0.f, std::sin(a)) * 3.6f;
 	float footY = figure.foot * .75f + pose.rise + std::max(0.f, std::sin(b)) * 3.2f;
 	Vec3 hand   = {ShoulderOf(s).x + 3 + std::cos(a) * 5.4f, handY, s * figure.chest * .8f};
@@ -178,10 +179,10 @@ Reach BipedBuilder::Climbing(int s) const
 
 Reach BipedBuilder::ReachOf(int s) const
 {
-	Reach to = figure.standing ? Upright(s)
-	           : running       ? Galloping(s)
-	           : pose.climb >= 0 ? Climbing(s)
-	                             : Sitting(s);
+	Reach to  = figure.standing   ? Upright(s)
+	            : running         ? Galloping(s)
+	            : pose.climb >= 0 ? Climbing(s)
+	                              : Sitting(s);
 	float arm = figure.arm, leg = figure.leg;
 	if (pose.fit > 0) { // arms pump, feet stamp
 		float a      = pose.fit * 4 * PI + (s > 0 ? PI : 0);
@@ -204,7 +205,8 @@ Reach BipedBuilder::ReachOf(int s) const
 		to.elbowBend = {0, -1, s * 1.f};
 	}
 	if (pose.tuck > 0)
-		to.foot = Mix(to.foot, HipOf(s) + Vec3{figure.hip, -figure.hip * .35f, s * 1.5f}, pose.tuck);
+		to.foot =
+		    Mix(to.foot, HipOf(s) + Vec3{figure.hip, -figure.hip * .35f, s * 1.5f}, pose.tuck);
 	return to;
 }
 
@@ -233,24 +235,24 @@ void BipedBuilder::AddLimbs(int s)
 	AddLimb(shoulder, hand, armReach, figure.armRadius, to.elbowBend, skin, figure.hand);
 	AddLimb(hipJoint, foot, legReach, figure.legRadius, to.kneeBend, skin, figure.foot);
 	float sole = figure.foot;
-	model.Ellipsoid(foot + Vec3{sole * .55f, -sole * .1f, 0}, {sole * 1.05f, sole * .7f, sole * .85f},
-	                Mat3(), skin, .5f);
+	model.Ellipsoid(foot + Vec3{sole * .55f, -sole * .1f, 0},
+	                {sole * 1.05f, sole * .7f, sole * .85f}, Mat3(), skin, .5f);
 }
 
 // Sitting: along the ground, then up with a curl. Running: arched over the back. Climbing: hanging.
 void BipedBuilder::AddMonkeyTail()
 {
-	const Vec3 SIT[]   = {{-5, -3.2f, 0}, {-9.5f, -2.4f, 0}, {-8.4f, 4.2f, 0}, {-7.6f, 6.6f, 0},
-	                      {-5, 6.8f, 0},  {-5.2f, 4.6f, 0}};
-	const Vec3 RUN[]   = {{-6, -.5f, 0}, {-10, 6, 0},      {-6.5f, 12, 0}, {-5, 14.5f, 0},
-	                      {-1.8f, 13, 0},    {-3.4f, 11, 0}};
-	const Vec3 CLIMB[] = {{-4, -1, 0}, {-3, -6, -3},  {-3, -8.5f, 1}, {-3, -9.5f, 3.2f},
-	                      {-3, -7, 5}, {-3, -6, 2.6f}};
+	const Vec3 SIT[]   = {{-5, -3.2f, 0},   {-9.5f, -2.4f, 0}, {-8.4f, 4.2f, 0},
+	                      {-7.6f, 6.6f, 0}, {-5, 6.8f, 0},     {-5.2f, 4.6f, 0}};
+	const Vec3 RUN[]   = {{-6, -.5f, 0},  {-10, 6, 0},    {-6.5f, 12, 0},
+	                      {-5, 14.5f, 0}, {-1.8f, 13, 0}, {-3.4f, 11, 0}};
+	const Vec3 CLIMB[] = {{-4, -1, 0},       {-3, -6, -3}, {-3, -8.5f, 1},
+	                      {-3, -9.5f, 3.2f}, {-3, -7, 5},  {-3, -6, 2.6f}};
 	const Vec3* p      = pose.climb >= 0 ? CLIMB : OnAllFours() ? RUN : SIT;
 	float k = figure.tailSize, wave = (running ? phase * 2 * PI : 0) + pose.tailSwing * 2;
 	float high = 1 + pose.tailRaise * .5f, sway = std::sin(wave);
-	Vec3 root  = hip + Vec3{-figure.hip * .7f, -.6f, 0};
-	auto at    = [&](int i) {
+	Vec3 root = hip + Vec3{-figure.hip * .7f, -.6f, 0};
+	auto at   = [&](int i) {
         float far = (i + 1) / 4.f;
         float bob = running ? std::cos(wave) * .8f * far : 0;
         return root + (Vec3{p[i].x, p[i].y * high + bob, p[i].z + sway * far}) * k;

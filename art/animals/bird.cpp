@@ -4,12 +4,12 @@
 #include "art/animals/limbs.h"
 #include "art/animals/wings.h"
 
-static const float STANCE     = .55f; // part of a stride that a foot stays down
-static const float LONG_SHANK = 8;    // legs longer than this show their joint
-static const float REST_TURN = 14, LOOK_TURN = 46;           // degrees
+static const float STANCE     = .55f;              // part of a stride that a foot stays down
+static const float LONG_SHANK = 8;                 // legs longer than this show their joint
+static const float REST_TURN = 14, LOOK_TURN = 46; // degrees
 static const float OWL_REST_TURN = 42, OWL_LOOK_TURN = 42; // an owl faces the viewer at rest
-static const uint32_t COMB_RED   = 0xe0342c;
-static const Colour ROSY         = HexColour(0xf08a5a);
+static const uint32_t COMB_RED = 0xe0342c;
+static const Colour ROSY       = HexColour(0xf08a5a);
 
 namespace
 {
@@ -84,8 +84,8 @@ int BirdBuilder::BodyMaterial()
 {
 	return model.Painted(
 	    [b = bird, centre = body, toLocal = Transpose(bodyAxes)](const SurfacePoint& at) {
-		    Vec3 l     = toLocal * (at.position - centre);
-		    float x    = l.x / b.bodyLength, y = l.y / b.bodyRadius;
+		    Vec3 l  = toLocal * (at.position - centre);
+		    float x = l.x / b.bodyLength, y = l.y / b.bodyRadius;
 		    float side = y - .45f * x + .5f - b.bellyLine;
 		    Colour c   = Mix(HexColour(b.body), HexColour(b.belly), Smoothstep(.15f, -.25f, side));
 		    if (b.breast) {
@@ -141,8 +141,8 @@ void BirdBuilder::AddBody()
 	int collar = model.Plain(bird.collar);
 	for (int i = 0; i < 10; i++) {
 		float a = i * 2 * PI / 10, c = bird.ruffCollar;
-		model.Ball(neckBase + Vec3{.3f + std::cos(a) * c, c * .4f + .3f * std::cos(a),
-		                           std::sin(a) * c},
+		model.Ball(neckBase +
+		               Vec3{.3f + std::cos(a) * c, c * .4f + .3f * std::cos(a), std::sin(a) * c},
 		           c * .48f, collar, .7f);
 	}
 }
@@ -162,9 +162,9 @@ void BirdBuilder::AddTail()
 		int dark  = model.Plain(bird.wingTip, .2f);
 		float c   = bird.tailCurl;
 		Vec3 from = root + bodyAxes * Vec3{-length * .25f, up * .4f + c * .45f, swing * .4f};
-		model.Tube(from, from + Vec3{-c, 0, swing * .3f}, from + Vec3{-c * 1.5f, c * 1.3f, swing * .5f},
-		           from + Vec3{-c * .35f, c * 1.25f, swing * .5f}, c * .42f, c * .28f, 5, dark, .4f,
-		           .2f);
+		model.Tube(
+		    from, from + Vec3{-c, 0, swing * .3f}, from + Vec3{-c * 1.5f, c * 1.3f, swing * .5f},
+		    from + Vec3{-c * .35f, c * 1.25f, swing * .5f}, c * .42f, c * .28f, 5, dark, .4f, .2f);
 	}
 	for (int i = 0; bird.tailPlume > 0 && i < 5; i++) {
 		float a = i * 2 * PI / 5, p = bird.tailPlume;
@@ -194,10 +194,10 @@ Vec3 BirdBuilder::NeckOffset(Vec3 base) const
 // The head nods against each step.
 void BirdBuilder::PlaceHead()
 {
-	neckBase   = OnBody(bird.bodyLength * .55f, bird.bodyRadius * .35f, 0);
-	float nod  = walking ? std::sin(phase * 4 * PI) * .8f : 0;
-	float turn = bird.owlFace ? pose.look * OWL_LOOK_TURN + OWL_REST_TURN
-	                          : pose.look * LOOK_TURN + REST_TURN;
+	neckBase    = OnBody(bird.bodyLength * .55f, bird.bodyRadius * .35f, 0);
+	float nod   = walking ? std::sin(phase * 4 * PI) * .8f : 0;
+	float turn  = bird.owlFace ? pose.look * OWL_LOOK_TURN + OWL_REST_TURN
+	                           : pose.look * LOOK_TURN + REST_TURN;
 	head.centre = neckBase + NeckOffset(neckBase) + Vec3{nod, 0, 0};
 	head.axes   = TurnY(Radians(turn) * view.TowardViewer()) *
 	            TurnZ(-pose.headDown * .9f + pose.headTip) * TurnX(-pose.sway * .6f);
@@ -260,7 +260,8 @@ void BirdBuilder::AddCrown()
 		                r * .26f, .4f, headCoat, .6f);
 	for (int i = 0; bird.tuft > 0 && i < 3; i++) {
 		Vec3 root = head.Point(-r * .05f - r * .16f * i, r * .92f, 0);
-		model.RoundCone(root, root + head.Along(-bird.tuft * (.1f + .4f * i), bird.tuft, (i - 1) * .5f),
+		model.RoundCone(root,
+		                root + head.Along(-bird.tuft * (.1f + .4f * i), bird.tuft, (i - 1) * .5f),
 		                .75f, .35f, headCoat, .5f);
 	}
 	int red = bird.comb > 0 ? model.Plain(COMB_RED, .3f) : 0;

@@ -22,9 +22,10 @@ struct Bird {
 	float wingLength = 7.5f, wingWidth = 3.6f;
 	float span = 8.5f, chord = 4.4f; // of each half of a spread wing
 	bool owlFace = false, flippers = false;
-	float crest = 0, comb = 0, wattle = 0, earTufts = 0, ruffCollar = 0, neckRing = 0, tailPlume = 0;
-	float tuft       = 0; // a few feathers that stand up on the crown
-	float spots      = 0; // fleck threshold
+	float crest = 0, comb = 0, wattle = 0, earTufts = 0, ruffCollar = 0, neckRing = 0,
+	      tailPlume  = 0;
+	float tuft       = 0;    // a few feathers that stand up on the crown
+	float spots      = 0;    // fleck threshold
 	float bellyLine  = .25f; // higher: more of the belly's colour
 	float breastLine = 0;    // how far back the breast's colour reaches, part of the length
 	float blush      = 0;    // strength of rosy cheeks, 0..1

@@ -3,8 +3,8 @@
 #include "art/animals/figure.h"
 #include "art/families.h"
 
-static const Window CANVAS   = {-15, -21, 30, 30};
-static const float ELEVATION  = 58; // degrees: seen from above, or spread wings are lines
+static const Window CANVAS   = {-15, -20, 28, 30};
+static const float ELEVATION = 58; // degrees: seen from above, or spread wings are lines
 
 // clang-format off
 static const Butterfly KINDS[] = {
@@ -32,7 +32,7 @@ static void BuildC(Model& model, const View&, const Pose& pose)
 // from there, 3 to 5 lower them.
 static Poses Flutter(Heading heading)
 {
-	const float FLAP[] = {.10f, .45f, .75f, -.15f, -.38f, -.58f};
+	const float FLAP[] = {.10f, .45f, .75f, -.15f, -.35f, -.52f};
 	Poses list(6);
 	for (int i = 0; i < 6; i++) {
 		list[i].heading = heading;
@@ -46,13 +46,13 @@ static Species ButterflySpecies(int kind)
 {
 	const BuildFigure BUILD[] = {BuildA, BuildB, BuildC};
 	Species s;
-	s.prefix       = std::string("butterfly") + (char)('A' + kind);
-	s.build        = BUILD[kind];
-	s.width        = 26;
-	s.canvas       = CANVAS;
-	s.elevation    = ELEVATION;
-	s.shadow       = 0;
-	s.rest         = Flutter(Heading::Up)[0];
+	s.prefix    = std::string("butterfly") + (char)('A' + kind);
+	s.build     = BUILD[kind];
+	s.width     = 24;
+	s.canvas    = CANVAS;
+	s.elevation = ELEVATION;
+	s.shadow    = 0;
+	s.rest      = Flutter(Heading::Up)[0];
 	return s;
 }
 

@@ -1,13 +1,13 @@
 // The shape of butterflies and the paint of their wings.
 #include "art/animals/butterfly.h"
 
-static const float HEIGHT      = 9;    // of the body over the origin, model units
-static const float REST_LIFT   = .25f; // radians that the wings are raised at flap 0
-static const float FLAP_SWING  = .95f; // radians more at flap 1
-static const float WING_THICK  = .55f;
+static const float HEIGHT     = 9;    // of the body over the origin, model units
+static const float REST_LIFT  = .25f; // radians that the wings are raised at flap 0
+static const float FLAP_SWING = .95f; // radians more at flap 1
+static const float WING_THICK = .55f;
 static const float EDGE       = .10f; // softness of the pattern, in half wings
 static const float GLOW       = .28f; // light that shines through the wings
-static const int DOTS = 7;                         // round a wing, as far as they fall on its rim
+static const int DOTS         = 7;    // round a wing, as far as they fall on its rim
 
 namespace
 {
@@ -28,7 +28,7 @@ Colour WingPaint::operator()(const SurfacePoint& at) const
 	float u = l.x / halfX, v = l.z * side / halfZ, d = std::sqrt(u * u + v * v);
 	Colour c = Mix(HexColour(colours.wing), HexColour(colours.inner), Smoothstep(.25f, -.5f, v));
 	float su = u - spotAt.x, sv = v - spotAt.z;
-	c = Mix(HexColour(colours.spot), c, 
+	c = Mix(HexColour(colours.spot), c,
 	        Smoothstep(colours.spotSize - EDGE * .5f, colours.spotSize + EDGE * .5f,
 	                   std::sqrt(su * su + sv * sv)));
 	c = Mix(c, HexColour(colours.edge), Smoothstep(colours.rim, colours.rim + EDGE, d));
@@ -95,7 +95,7 @@ void ButterflyBuilder::AddFeeler(int s)
 // The body sinks as the wings go up.
 void AddButterfly(Model& model, const Butterfly& butterfly, const Pose& pose)
 {
-	Vec3 centre = {0, HEIGHT + pose.rise - pose.flap * 1.2f, 0};
+	Vec3 centre = {0, HEIGHT + pose.rise - pose.flap * .6f, 0};
 	ButterflyBuilder builder{model, butterfly, pose, centre, model.Plain(butterfly.body, .3f)};
 	builder.AddBody();
 	for (int s : {-1, 1}) {

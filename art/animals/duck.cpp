@@ -84,10 +84,10 @@ static Poses AdjustingWings()
 {
 	Poses list(8);
 	for (int i = 0; i < 8; i++) {
-		float t  = Part(i, 8), shake = std::sin(t * 6 * PI) * std::sin(t * PI);
-		Pose& p  = list[i];
-		p.armsUp = .34f * std::sin(t * PI);
-		p.ruffle = .55f * std::sin(t * PI);
+		float t = Part(i, 8), shake = std::sin(t * 6 * PI) * std::sin(t * PI);
+		Pose& p     = list[i];
+		p.armsUp    = .34f * std::sin(t * PI);
+		p.ruffle    = .55f * std::sin(t * PI);
 		p.tailSwing = shake;
 		p.sway      = .07f * shake;
 		p.rise      = 1.0f * std::sin(t * PI);
@@ -123,8 +123,7 @@ void AddDuck(Catalogue& catalogue)
 	sequences.push_back({"movehead", MovingHead()});
 	sequences.push_back({"adjustwings", AdjustingWings()});
 	AddSequences(catalogue, __FILE__, Duck, sequences);
-	catalogue.Add("animals duck bubble", __FILE__,
-	              [](Sink& sink) { DrawInBubble(sink, Duck()); });
+	catalogue.Add("animals duck bubble", __FILE__, [](Sink& sink) { DrawInBubble(sink, Duck()); });
 }
 
 void AddDuckling(Catalogue& catalogue)

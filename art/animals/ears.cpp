@@ -46,14 +46,14 @@ void EarBuilder::AddRound()
 {
 	Vec3 e = frame.Point(-r * .12f, r * head.earUp, s * r * head.earAside);
 	model.Ellipsoid(e, {er * .62f, er, er}, frame.axes, outer, .6f);
-	model.Ellipsoid(e + frame.Along(er * .42f, 0, 0), {er * .36f, er * .64f, er * .64f},
-	                frame.axes, inner, 0);
+	model.Ellipsoid(e + frame.Along(er * .42f, 0, 0), {er * .36f, er * .64f, er * .64f}, frame.axes,
+	                inner, 0);
 }
 
 // An ape's, at the height of the eyes.
 void EarBuilder::AddSide()
 {
-	Vec3 e = frame.Point(-r * .05f, r * .10f, s * r * 1.14f);
+	Vec3 e = frame.Point(-r * .05f, r * .10f, s * r * 1.05f);
 	model.Ellipsoid(e, {1.2f, er, er * .92f}, frame.axes, outer, .4f);
 	model.Ellipsoid(e + frame.Along(.85f, 0, s * .2f), {.65f, er * .68f, er * .62f}, frame.axes,
 	                inner, 0);
@@ -62,8 +62,8 @@ void EarBuilder::AddSide()
 void EarBuilder::AddPoint()
 {
 	Vec3 e = frame.Point(-r * .1f, r * .62f, s * r * .58f);
-	Vec3 t = frame.Point(-r * .2f - back * 3, r * .62f + el,
-	                     s * (r * .58f + el * (.28f + back * .5f)));
+	Vec3 t =
+	    frame.Point(-r * .2f - back * 3, r * .62f + el, s * (r * .58f + el * (.28f + back * .5f)));
 	model.RoundCone(e, t, er, .7f, outer, .6f);
 	model.RoundCone(e + frame.Along(er * .6f, .6f, 0), Mix(e, t, .72f) + frame.Along(.8f, 0, 0),
 	                er * .58f, .35f, inner, 0);
@@ -110,8 +110,8 @@ void EarBuilder::AddTube()
 	Vec3 e = frame.Point(-r * .35f, r * .72f, s * r * .52f);
 	Vec3 t = e + frame.Along(-.4f, el, s * el * .35f);
 	model.RoundCone(e, t, er * .8f, er, outer, .6f);
-	model.Ellipsoid(t + frame.Along(er * .55f, .2f, 0), {er * .5f, er * .75f, er * .6f},
-	                frame.axes, inner, 0);
+	model.Ellipsoid(t + frame.Along(er * .55f, .2f, 0), {er * .5f, er * .75f, er * .6f}, frame.axes,
+	                inner, 0);
 }
 } // namespace
 
@@ -119,7 +119,7 @@ void AddEar(Model& model, const Head& head, const HeadFrame& frame, const Pose& 
             int coat, int inner)
 {
 	int outer = head.earColour ? model.Plain(head.earColour) : coat;
-	EarBuilder{model,       head,           frame,          side,         outer, inner,
-	           head.radius, head.earRadius, head.earLength, pose.earSwing}
+	EarBuilder{model, head,        frame,          side,           outer,
+	           inner, head.radius, head.earRadius, head.earLength, pose.earSwing}
 	    .Add();
 }

@@ -42,8 +42,7 @@ Colour EyePaint::operator()(const SurfacePoint& at) const
 	Vec3 d       = Normalize(at.position - centre);
 	float height = Dot(d, up);
 	if (lid >= SHUT) // a dark line at the lower third
-		return Mix(InkOf(lidColour), lidColour,
-		           Smoothstep(.20f, .36f, std::fabs(height + .22f)));
+		return Mix(InkOf(lidColour), lidColour, Smoothstep(.20f, .36f, std::fabs(height + .22f)));
 	Colour c = Open(d, height);
 	if (lid <= 0)
 		return c;
@@ -61,18 +60,25 @@ void AddEyes(Model& model, const HeadFrame& frame, Vec3 headHalf, const Eye& eye
 		if (eye.bulge > 0)
 			model.Ball(at - frame.Along(eye.radius * .55f, eye.radius * .25f, side * .2f),
 			           headHalf.y * eye.bulge, socket, 1.0f);
-		Vec3 own  = Normalize(frame.Along(1, .05f, side * eye.lookAside));
-		Vec3 gaze = Normalize(Mix(own, view.Gaze(), AT_VIEWER));
+		Vec3 own    = Normalize(frame.Along(1, .05f, side * eye.lookAside));
+		Vec3 gaze   = Normalize(Mix(own, view.Gaze(), AT_VIEWER));
 		Vec3 right  = Transpose(TurnY(view.yaw)) * Vec3{1, 0, 0};
 		Vec3 spark  = Normalize(gaze + Vec3{0, SPARK_UP, 0} - right * SPARK_LEFT);
 		float pupil = std::min(WIDEST, eye.pupil + pose.wideEyes * .4f);
 		Material material;
 		material.eye   = pose.lid < SHUT; // a shut eye is shaded as skin, without the spark
-		material.paint = EyePaint{at,        gaze,           frame.Along(0, 1, 0), spark, lidColour,
-		                          HexColour(eye.iris), eye.iris != 0, pose.lid, pupil};
-		float wide = pose.wideEyes;
-		Vec3 half  = {eye.radius * .8f, eye.radius * (1.12f + wide),
-		              eye.radius * (.97f + wide * .5f)};
+		material.paint = EyePaint{at,
+		                          gaze,
+		                          frame.Along(0, 1, 0),
+		                          spark,
+		                          lidColour,
+		                          HexColour(eye.iris),
+		                          eye.iris != 0,
+		                          pose.lid,
+		                          pupil};
+		float wide     = pose.wideEyes;
+		Vec3 half      = {eye.radius * .8f, eye.radius * (1.12f + wide),
+		                  eye.radius * (.97f + wide * .5f)};
 		model.Ellipsoid(at, half, frame.axes, model.Add(material), 0);
 	}
 }

@@ -17,8 +17,8 @@ struct Eye {
 	float forward = .72f, up = .30f, aside = .46f; // place, in head radii
 	float pupil     = .68f;                        // cosine of the pupil's cone
 	uint32_t iris   = 0;                           // 0: none, the pupil is dark
-	float bulge     = 0;    // socket ball under the eye, in head radii
-	float lookAside = .34f; // how far the eyes part
+	float bulge     = 0;                           // socket ball under the eye, in head radii
+	float lookAside = .34f;                        // how far the eyes part
 };
 
 // headHalf: half sizes of the skull. `lidColour` is that of the face around the eye, `socket` the

@@ -9,8 +9,8 @@ static Colour BanditMask(Vec3 p, Colour base)
 {
 	float inside = Smoothstep(.02f, .08f, p.y + .22f) * (1 - Smoothstep(.44f, .50f, p.y)) *
 	               Smoothstep(.05f, .15f, p.x);
-	float brow = Smoothstep(.50f, .56f, p.y) * (1 - Smoothstep(.72f, .78f, p.y)) *
-	             Smoothstep(.1f, .2f, p.x);
+	float brow =
+	    Smoothstep(.50f, .56f, p.y) * (1 - Smoothstep(.72f, .78f, p.y)) * Smoothstep(.1f, .2f, p.x);
 	return Mix(Mix(base, DARK, inside), BROW, brow * .9f);
 }
 

@@ -3,13 +3,13 @@
 
 #include "art/core/palette.h"
 
-static const int SUPERSAMPLE     = 4;
-static const int MEASURE_SAMPLES = 2;
-static const int ROOM            = 3;     // canvas that is measured on, in sizes of the figure
-static const float SEEN          = .04f;  // alpha of the faintest pixel that a crop keeps
-static const int MARGIN          = 1;     // pixels free all round
-static const float SHADOW_X      = 2;     // pixels that the shadow lies to the right
-static const float SHADOW_SEEN   = 1.15f; // part of its radius up to which it can be seen
+static const int SUPERSAMPLE       = 4;
+static const int MEASURE_SAMPLES   = 2;
+static const int ROOM              = 3;     // canvas that is measured on, in sizes of the figure
+static const float SEEN            = .04f;  // alpha of the faintest pixel that a crop keeps
+static const int MARGIN            = 1;     // pixels free all round
+static const float SHADOW_X        = 2;     // pixels that the shadow lies to the right
+static const float SHADOW_SEEN     = 1.15f; // part of its radius up to which it can be seen
 static const float SHADOW_FLATNESS = .26f;
 static const float SHADOW_STRENGTH = .34f;
 static const float SHADOW_HEIGHT   = 36;   // figures this high off the ground cast none
@@ -51,9 +51,9 @@ Figure::Figure(const Species& newSpecies) : species(newSpecies)
 {
 	ShadeStyle bare;
 	bare.outline = bare.sharpen = 0;
-	Window room   = Roomy(96);
-	Image measure = Render(species.rest, room, 1, MEASURE_SAMPLES, bare);
-	Bounds b      = OpaqueBounds(measure);
+	Window room                 = Roomy(96);
+	Image measure               = Render(species.rest, room, 1, MEASURE_SAMPLES, bare);
+	Bounds b                    = OpaqueBounds(measure);
 	scale = species.width > 0 ? (species.width - 2) / b.Width() : (species.height - 2) / b.Height();
 	stand = species.canvas.width > 0 ? species.canvas : Extent(species.rest);
 }

@@ -122,8 +122,8 @@ void HeadBuilder::AddDisc(Vec3 tip)
 	model.Cylinder(face, head.muzzleTip * 1.08f, 1.0f, frame.axes * TurnZ(PI / 2), .6f, innerEar,
 	               .3f);
 	for (int s : BOTH)
-		model.Ellipsoid(face + frame.Along(1.0f, .2f, s * head.muzzleTip * .42f),
-		                {.5f, .95f, .65f}, frame.axes, nose, 0);
+		model.Ellipsoid(face + frame.Along(1.0f, .2f, s * head.muzzleTip * .42f), {.5f, .95f, .65f},
+		                frame.axes, nose, 0);
 }
 
 void HeadBuilder::AddNose(Vec3 tip)
@@ -147,7 +147,8 @@ void HeadBuilder::AddMouthLine(Vec3 tip)
 	float spread = head.muzzleTip * .82f + head.muzzleWide;
 	for (int s : BOTH)
 		model.RoundCone(tip + frame.Along(head.muzzleTip * .86f, -head.muzzleTip * .42f, s * .2f),
-		                tip + frame.Along(head.muzzleTip * .25f, -head.muzzleTip * .50f, s * spread),
+		                tip +
+		                    frame.Along(head.muzzleTip * .25f, -head.muzzleTip * .50f, s * spread),
 		                MOUTH_LINE, .3f, nose, 0);
 }
 
@@ -158,10 +159,10 @@ void HeadBuilder::AddOpenMouth()
 	Vec3 hinge  = frame.Point(r * .48f, head.muzzleDrop - head.muzzleRoot * .45f, 0);
 	Vec3 jawTip = hinge + frame.Along(std::cos(open * 1.05f) * reach,
 	                                  -std::sin(open * 1.05f) * reach - tip * .25f, 0);
-	float wide = tip * .72f + head.muzzleWide;
+	float wide  = tip * .72f + head.muzzleWide;
 	model.Ellipsoid(Mix(hinge, jawTip, .60f) + frame.Along(0, open * tip * .42f, 0),
-	                {reach * .48f, .6f + open * tip * .62f, wide},
-	                frame.axes * TurnZ(-open * .42f), model.Plain(GULLET, .2f), 0);
+	                {reach * .48f, .6f + open * tip * .62f, wide}, frame.axes * TurnZ(-open * .42f),
+	                model.Plain(GULLET, .2f), 0);
 	model.Ellipsoid(Mix(hinge, jawTip, .70f) + frame.Along(0, .5f, 0),
 	                {reach * .30f, .9f, wide * .55f}, frame.axes * TurnZ(-open * .8f),
 	                model.Plain(TONGUE, .3f), 0);
@@ -192,7 +193,7 @@ void HeadBuilder::AddTrunk()
 Vec3 HeadBuilder::Smile(float along) const
 {
 	float root = head.muzzleRoot, z = along * root * .20f;
-	float out  = std::sqrt(std::max(0.f, 1 - z * z / (root * root * 1.3f)));
+	float out = std::sqrt(std::max(0.f, 1 - z * z / (root * root * 1.3f)));
 	return frame.Point(r * .62f + out * root * .80f, -r * .36f - root * .40f + z * z * .12f, z);
 }
 
@@ -211,9 +212,10 @@ void HeadBuilder::AddPrimateFace()
 		model.Ellipsoid(frame.Point(r * .62f + root * .50f, -r * .36f - root * .30f, 0),
 		                {root * .47f, root * .50f * open, root * .70f}, frame.axes,
 		                model.Plain(GULLET), 0);
-		model.Ellipsoid(frame.Point(r * .62f + root * .72f, -r * .36f - root * (.22f + .38f * open), 0),
-		                {root * .30f, root * .16f * open, root * .42f}, frame.axes,
-		                model.Plain(TONGUE, .3f), 0);
+		model.Ellipsoid(
+		    frame.Point(r * .62f + root * .72f, -r * .36f - root * (.22f + .38f * open), 0),
+		    {root * .30f, root * .16f * open, root * .42f}, frame.axes, model.Plain(TONGUE, .3f),
+		    0);
 		return;
 	}
 	for (int i = -3; i < 3; i++)
@@ -229,8 +231,7 @@ void HeadBuilder::AddTusks()
 		Vec3 root = frame.Point(forward, -r * .48f, s * r * .40f);
 		Vec3 bow  = root + frame.Along(t * .55f, -t * .15f, s * t * .25f);
 		model.RoundCone(root, bow, 1.2f, .95f, horn, 0);
-		model.RoundCone(bow, bow + frame.Along(t * .20f, t * .55f, s * .4f), .95f, .45f, horn,
-		                .2f);
+		model.RoundCone(bow, bow + frame.Along(t * .20f, t * .55f, s * .4f), .95f, .45f, horn, .2f);
 	}
 }
 
@@ -240,8 +241,8 @@ void HeadBuilder::AddHair()
 	for (int i = 0; head.ruff > 0 && i < 6; i++) {
 		int s = i & 1 ? 1 : -1, row = i / 2;
 		Vec3 root = frame.Point(-r * .05f, -r * (.05f + .26f * row), s * r * .62f);
-		Vec3 tip = root + frame.Along(-r * .28f, -r * (.12f + .18f * row),
-		                              s * head.ruff * (1 - .18f * row));
+		Vec3 tip  = root + frame.Along(-r * .28f, -r * (.12f + .18f * row),
+		                               s * head.ruff * (1 - .18f * row));
 		model.RoundCone(root, tip, r * .30f, .5f, ruff, .9f);
 	}
 	for (int i = 0; head.forelock > 0 && i < 3; i++)
@@ -250,14 +251,14 @@ void HeadBuilder::AddHair()
 		                head.forelock, head.forelock * .55f, hair, .8f);
 	for (int i = 0; head.tuft > 0 && i < 3; i++) {
 		Vec3 root = frame.Point(r * (.18f - .20f * i), r * .90f, 0);
-		model.RoundCone(root, root + frame.Along(head.tuft * (.5f - .5f * i), head.tuft, (i - 1) * .6f),
+		model.RoundCone(root,
+		                root + frame.Along(head.tuft * (.5f - .5f * i), head.tuft, (i - 1) * .6f),
 		                1.3f, .5f, coat, .8f);
 	}
 	if (head.beard > 0)
-		model.RoundCone(
-		    frame.Point(r * .62f, head.muzzleDrop - head.muzzleRoot * .6f, 0),
-		    frame.Point(r * .55f, head.muzzleDrop - head.muzzleRoot - head.beard, 0), 1.7f, .55f,
-		    hair, .6f);
+		model.RoundCone(frame.Point(r * .62f, head.muzzleDrop - head.muzzleRoot * .6f, 0),
+		                frame.Point(r * .55f, head.muzzleDrop - head.muzzleRoot - head.beard, 0),
+		                1.7f, .55f, hair, .6f);
 }
 
 // Drawn down to the nose.
@@ -271,9 +272,10 @@ void HeadBuilder::AddBrows()
 	for (int s : BOTH) {
 		float x = half.x * eye.forward + eye.radius * .72f, z = half.z * eye.aside;
 		float y = half.y * eye.up + eye.radius * (1.25f - .45f * pose.frown);
-		model.RoundCone(frame.Point(x, y - eye.radius * .35f * pose.frown, s * (z - eye.radius * .7f)),
-		                frame.Point(x - .5f, y + eye.radius * .35f * pose.frown, s * (z + eye.radius * .8f)),
-		                .75f, .55f, dark, 0);
+		model.RoundCone(
+		    frame.Point(x, y - eye.radius * .35f * pose.frown, s * (z - eye.radius * .7f)),
+		    frame.Point(x - .5f, y + eye.radius * .35f * pose.frown, s * (z + eye.radius * .8f)),
+		    .75f, .55f, dark, 0);
 	}
 }
 

@@ -20,11 +20,11 @@ enum class FaceMark {
 
 // Lengths in model units unless said otherwise; the parts that a species hasn't are 0.
 struct Head {
-	float radius = 8;
-	Vec3 shape   = {1, 1, 1}; // half sizes of the skull, in radii
-	float cheeks = .48f;      // in radii
+	float radius       = 8;
+	Vec3 shape         = {1, 1, 1}; // half sizes of the skull, in radii
+	float cheeks       = .48f;      // in radii
 	float muzzleLength = 5, muzzleRoot = 3.8f, muzzleTip = 3.2f, muzzleDrop = -2.2f;
-	float muzzleWide = 0; // two half muzzles this far apart
+	float muzzleWide = 0;     // two half muzzles this far apart
 	bool disc        = false; // a pig's snout
 	bool mouthLine   = true;
 	float nose       = 1.6f;
@@ -43,7 +43,7 @@ struct Head {
 	float beard      = 0;
 	float blush      = 0; // strength of rosy cheeks, 0..1
 	FaceMark mark    = FaceMark::None;
-	uint32_t coat = 0; // 0: that of the body
+	uint32_t coat    = 0; // 0: that of the body
 	uint32_t muzzle = 0xc79a68, noseColour = 0x2c1c18, innerEar = 0xd8a488, horns = 0xe9dcc0;
 	uint32_t markColour = 0xffffff, hair = 0x3c2418;
 	uint32_t ruffColour = 0, earColour = 0, earTip = 0; // 0: as the coat

@@ -63,8 +63,8 @@ void HornBuilder::AddCurl(int s)
 	Vec3 centre     = frame.Point(-r * .18f, r * .22f, s * r * .86f), last;
 	for (int i = 0; i < BEADS; i++) {
 		float t = i / (BEADS - 1.f), a = Radians(62 + 318 * t), reach = hl * (1 - .30f * t);
-		Vec3 at = centre + frame.Along(std::cos(a) * reach, std::sin(a) * reach,
-		                               s * (.2f + 2.6f * t));
+		Vec3 at =
+		    centre + frame.Along(std::cos(a) * reach, std::sin(a) * reach, s * (.2f + 2.6f * t));
 		float thick = Mix(2.5f, .9f, t), ridge = i % 2 ? .22f : 0;
 		if (i > 0)
 			model.RoundCone(last, at, thick + .1f + ridge, thick + .22f - ridge, horn,
@@ -97,18 +97,18 @@ void HornBuilder::AddPalm(int s)
 	for (int i = 0; i < 5; i++) {
 		float a  = Radians(-62 + 40.f * i);
 		Vec3 out = plate * Vec3{-std::sin(a), 0, s * std::cos(a)};
-		model.RoundCone(palm + out * (hl * .34f),
-		                palm + out * (hl * .74f) + frame.Along(0, .8f, 0), 1.15f, .6f, horn, .5f);
+		model.RoundCone(palm + out * (hl * .34f), palm + out * (hl * .74f) + frame.Along(0, .8f, 0),
+		                1.15f, .6f, horn, .5f);
 	}
 }
 
 void HornBuilder::AddRhino()
 {
-	Vec3 front = MuzzleTip(head, frame, pose) +
-	             frame.Along(head.muzzleTip * .1f, head.muzzleTip * .7f, 0);
+	Vec3 front =
+	    MuzzleTip(head, frame, pose) + frame.Along(head.muzzleTip * .1f, head.muzzleTip * .7f, 0);
 	model.Tube(front, front + frame.Along(2.6f, hl * .30f, 0),
-	           front + frame.Along(3.6f, hl * .65f, 0), front + frame.Along(2.4f, hl, 0), 3.0f,
-	           .5f, 4, horn, .8f, .3f);
+	           front + frame.Along(3.6f, hl * .65f, 0), front + frame.Along(2.4f, hl, 0), 3.0f, .5f,
+	           4, horn, .8f, .3f);
 	Vec3 rear = frame.Point(r * .72f + head.muzzleLength * .25f, r * .28f, 0);
 	model.RoundCone(rear, rear + frame.Along(1.0f, hl * .5f, 0), 2.0f, .5f, horn, .6f);
 }
@@ -118,8 +118,8 @@ void HornBuilder::AddSingle()
 	Vec3 e = frame.Point(r * .52f, r * .78f, 0), t = frame.Point(r * 1.0f, r * .8f + hl, 0);
 	model.RoundCone(e, t, 1.5f, .35f, horn, .2f);
 	for (int i = 1; i < 5; i++)
-		model.Ring(Mix(e, t, i * .19f), Mix(1.35f, .55f, i * .2f), .28f,
-		           frame.axes * TurnZ(-.35f), horn, .1f);
+		model.Ring(Mix(e, t, i * .19f), Mix(1.35f, .55f, i * .2f), .28f, frame.axes * TurnZ(-.35f),
+		           horn, .1f);
 }
 } // namespace
 

@@ -4,9 +4,9 @@
 #include "art/animals/actions.h"
 #include "art/families.h"
 
-static const float SIDE_TURN     = 38; // degrees; a sitting figure shows its face
-static const float RUN_TURN_AWAY = 14; // runs in a truer side view
-static const float FLAIL_TURN = -28; // to the viewer, so that both arms show
+static const float SIDE_TURN     = 38;  // degrees; a sitting figure shows its face
+static const float RUN_TURN_AWAY = 14;  // runs in a truer side view
+static const float FLAIL_TURN    = -28; // to the viewer, so that both arms show
 static const int FIT_FRAMES      = 14;
 static const int CLIMB_FRAMES = 8, CLIMB_START_FRAMES = 3;
 static const float BACK_AWAY = SIDE_TURN + 90; // degrees from sitting to its back
@@ -22,16 +22,16 @@ static const Shift AT_POPUP = {-1, -3, -9, true};
 static Biped MonkeyShape()
 {
 	Biped b;
-	b.coat = 0xa2602f, b.belly = 0xecc08e, b.skin = 0xf6cfa0;
+	b.coat = 0xb06a36, b.belly = 0xf0c898, b.skin = 0xf8d4a8;
 	b.torso = 5.8f, b.hip = 4.9f, b.chest = 4.3f, b.headUp = .86f, b.hipHeight = 3.6f;
-	b.restTurn = 20;
+	b.restTurn = 20, b.headForward = .5f;
 	b.arm = 12, b.armRadius = 1.75f, b.leg = 8, b.legRadius = 2.1f, b.hand = 2, b.foot = 2.2f;
-	b.tail = BipedTail::Monkey, b.tailSize = .9f;
+	b.tail = BipedTail::Monkey, b.tailSize = .85f;
 
 	Head& h  = b.head;
-	h.radius = 8.2f, h.shape = {.95f, .97f, 1}, h.cheeks = 0, h.facePlate = true;
+	h.radius = 8, h.shape = {.95f, .97f, 1}, h.cheeks = 0, h.facePlate = true;
 	h.muzzleRoot = 4.4f, h.muzzle = 0xf8d4a4, h.noseColour = 0x4a2a1c;
-	h.ear = EarKind::Side, h.earRadius = 3, h.innerEar = 0xf2b48c;
+	h.ear = EarKind::Side, h.earRadius = 2.4f, h.innerEar = 0xf2b48c;
 	h.eye  = {2.6f, .86f, .22f, .38f, .60f, 0, 0, .1f};
 	h.tuft = 1.5f;
 	return b;
@@ -48,7 +48,7 @@ Species Monkey()
 	s.prefix   = "monkey";
 	s.build    = BuildMonkey;
 	s.height   = 27.5f;
-	s.canvas   = {-11, -27, 22, 30};
+	s.canvas   = {-12, -25, 22, 30};
 	s.sideTurn = SIDE_TURN;
 	s.shadow   = .40f;
 	return s;
@@ -67,17 +67,17 @@ static Poses Fit()
 {
 	Poses list(FIT_FRAMES);
 	for (int i = 0; i < FIT_FRAMES; i++) {
-		float t   = (i + 1) / (float)FIT_FRAMES; // the first picture is number 1
-		float up  = std::fabs(std::sin(t * 2 * PI));
-		Pose& p   = list[i];
-		p.turnAway = FLAIL_TURN;
-		p.fit     = t;
-		p.rise    = 8 * up;
-		p.squash  = up < .35f ? 2.2f * (1 - up / .35f) : -2.2f * up;
-		p.mouth   = .55f + .45f * up;
-		p.lid     = up < .3f ? 1 : 0;
-		p.headTip = .22f * up;
-		p.frown   = 1;
+		float t     = (i + 1) / (float)FIT_FRAMES; // the first picture is number 1
+		float up    = std::fabs(std::sin(t * 2 * PI));
+		Pose& p     = list[i];
+		p.turnAway  = FLAIL_TURN;
+		p.fit       = t;
+		p.rise      = 8 * up;
+		p.squash    = up < .35f ? 2.2f * (1 - up / .35f) : -2.2f * up;
+		p.mouth     = .55f + .45f * up;
+		p.lid       = up < .3f ? 1 : 0;
+		p.headTip   = .22f * up;
+		p.frown     = 1;
 		p.tailSwing = std::sin(t * 4 * PI);
 	}
 	return list;
@@ -88,16 +88,16 @@ static Poses Falling()
 {
 	Poses list(16);
 	for (int i = 0; i < 10; i++) {
-		Pose& p    = list[i];
-		p.turnAway = FLAIL_TURN * Ease((i + 1) / 3.f);
-		p.limbsUp  = Ease((i + 1) / 3.f);
-		p.fit      = i / 5.f + .01f;
-		p.wideEyes = .4f;
-		p.mouth    = .9f;
-		p.rise     = 3;
-		p.pitch    = .14f * std::sin(i * 2 * PI / 5);
+		Pose& p     = list[i];
+		p.turnAway  = FLAIL_TURN * Ease((i + 1) / 3.f);
+		p.limbsUp   = Ease((i + 1) / 3.f);
+		p.fit       = i / 5.f + .01f;
+		p.wideEyes  = .4f;
+		p.mouth     = .9f;
+		p.rise      = 3;
+		p.pitch     = .14f * std::sin(i * 2 * PI / 5);
 		p.tailRaise = 1;
-		p.shadow   = false;
+		p.shadow    = false;
 	}
 	const float PRESS[]  = {2.5f, 4.6f, 3.4f, .2f, -.6f, .8f};
 	const float BOUNCE[] = {0, 0, 0, 2.2f, 1.6f, 0};
@@ -184,7 +184,7 @@ static void DrawLooks(Sink& sink)
 		for (bool lookLeft : {true, false}) {
 			std::string stem = std::string("monkey_look") + (left ? "left" : "right") +
 			                   (lookLeft ? "left" : "right");
-			int number       = 0;
+			int number = 0;
 			for (Pose pose : Look(4, lookLeft == left ? AWAY : TO_VIEWER)) {
 				pose.left = left;
 				sink.Add(stem + std::to_string(number++) + ".png",

@@ -54,7 +54,7 @@ static void DrawPortrait(Sink& sink, const Portrait& portrait)
 {
 	Figure figure(portrait.species());
 	Pose pose;
-	pose.look = portrait.look;
+	pose.look  = portrait.look;
 	Image open = figure.DrawLarge(pose, ROOM, portrait.zoom);
 	pose.lid   = 1;
 	Image lids = LidsOnly(open, figure.DrawLarge(pose, ROOM, portrait.zoom));
@@ -71,12 +71,12 @@ static void DrawPortrait(Sink& sink, const Portrait& portrait)
 static void AddNest(Model& model)
 {
 	const int STRAWS = 64;
-	int tones[] = {model.Plain(0xd9a74a), model.Plain(0xc08a38), model.Plain(0xe8c070),
-	               model.Plain(0xa87430)};
+	int tones[]      = {model.Plain(0xd9a74a), model.Plain(0xc08a38), model.Plain(0xe8c070),
+	                    model.Plain(0xa87430)};
 	for (int i = 0; i < STRAWS; i++) {
 		float a = i * 2.39996f, layer = i / (float)STRAWS, radius = 20 + 9 * layer;
-		float y  = 2 + 9 * layer + 2.2f * Hash01(i, 1, 7);
-		float to = a + .55f + .35f * Hash01(i, 2, 7);
+		float y   = 2 + 9 * layer + 2.2f * Hash01(i, 1, 7);
+		float to  = a + .55f + .35f * Hash01(i, 2, 7);
 		Vec3 from = {std::cos(a) * radius, y, std::sin(a) * radius};
 		Vec3 end  = {std::cos(to) * (radius + 2), y + 3 * (Hash01(i, 3, 7) - .3f),
 		             std::sin(to) * (radius + 2)};

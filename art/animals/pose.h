@@ -31,16 +31,16 @@ struct Pose {
 	// body and limbs
 	float stride     = -1; // phase of a walk, 0..1; negative: stands
 	float strideSize = 1;
-	float squash     = 0; // length that the body is pressed down
-	float rise       = 0; // length that the whole figure is off the ground
-	float rear       = 0; // 1: upright on the hind legs
-	float kick       = 0; // 1: hind legs thrown up
-	float tuck       = 0; // 1: legs drawn up, as in a bubble
-	float lie        = 0; // 1: lies down
-	float limbsUp    = 0; // 1: arms and legs flung up, as in a fall
-	float raisePaw   = 0; // near fore paw, or one leg of a wader
-	float fit        = 0; // phase of a tantrum, above 0
-	float armsUp     = 0; // arms, or wings lifted on the ground
+	float squash     = 0;  // length that the body is pressed down
+	float rise       = 0;  // length that the whole figure is off the ground
+	float rear       = 0;  // 1: upright on the hind legs
+	float kick       = 0;  // 1: hind legs thrown up
+	float tuck       = 0;  // 1: legs drawn up, as in a bubble
+	float lie        = 0;  // 1: lies down
+	float limbsUp    = 0;  // 1: arms and legs flung up, as in a fall
+	float raisePaw   = 0;  // near fore paw, or one leg of a wader
+	float fit        = 0;  // phase of a tantrum, above 0
+	float armsUp     = 0;  // arms, or wings lifted on the ground
 	float climb      = -1; // phase of climbing; negative: doesn't climb
 	float tailSwing  = 0;
 	float tailRaise  = 0;

@@ -3,14 +3,16 @@
 
 #include "art/animals/tails.h"
 
-static const float BODY_BOB = .55f, SHOULDER_BOB = .5f; // of a walk, twice a cycle
+static const float BODY_BOB = .55f, SHOULDER_BOB = .5f;  // of a walk, twice a cycle
 static const float SHOULDER_LAG = 1.2f, HEAD_LAG = 2.4f; // radians behind the hips
-static const float STANCE    = .6f;  // part of a stride that a foot stays down
-static const float LIFT      = .24f; // of a foot, part of the leg
+static const float STANCE    = .6f;                      // part of a stride that a foot stays down
+static const float LIFT      = .24f;                     // of a foot, part of the leg
 static const float LEG_SWEEP = .36f, MOST_SWEEP = 4.6f;
-static const float FAR_SHADE = .55f; // far legs lie in shadow, or a walk can't be read
-static const int WOOL_LUMPS    = 38;
-static const float GOLDEN_TURN = 2.39996f; // radians
+static const float FAR_SHADE      = .55f;  // far legs lie in shadow, or a walk can't be read
+static const float GRAZING_HEIGHT = 1.28f; // head radii over the ground
+static const float GRAZING_TIP    = .68f;  // radians, nose down
+static const int WOOL_LUMPS       = 38;
+static const float GOLDEN_TURN    = 2.39996f; // radians
 
 namespace
 {
@@ -74,7 +76,7 @@ void QuadrupedBuilder::Build()
 	for (const Leg& leg : legs)
 		AddLeg(leg);
 	AddNeckAndHead();
-	float swing = (walking ? std::sin(phase * 2 * PI) * 1.4f : 0) + pose.tailSwing * 3;
+	float swing     = (walking ? std::sin(phase * 2 * PI) * 1.4f : 0) + pose.tailSwing * 3;
 	TailPlace place = {hip + Vec3{-animal.hip * .82f, animal.hip * .35f, 0},
 	                   swing,
 	                   pose.tailRaise * animal.tailLength * .5f,
@@ -129,8 +131,7 @@ void QuadrupedBuilder::PlaceBody()
 	float foreDown = pose.lie * (animal.shoulderHeight - animal.chest * .92f);
 	float lowHip   = animal.wool ? 0 : 1.5f;
 
-	hip      = {-animal.length * .5f, animal.hipHeight - lowHip + bob - pose.squash * .8f - hipDown,
-	            0};
+	hip = {-animal.length * .5f, animal.hipHeight - lowHip + bob - pose.squash * .8f - hipDown, 0};
 	shoulder = {animal.length * .5f, animal.shoulderHeight + lag - pose.squash - foreDown, 0};
 	tip      = pose.rear * 1.05f;
 	if (tip > 0)
@@ -153,8 +154,8 @@ void QuadrupedBuilder::AddWool()
 	for (int i = 0; i < WOOL_LUMPS; i++) {
 		float y = 1 - 2 * (i + .5f) / WOOL_LUMPS, r = std::sqrt(1 - y * y), a = i * GOLDEN_TURN;
 		a += .55f * Hash01(i, 5, 2); // or the lumps line up as ridges
-		Vec3 out = {std::cos(a) * r * (half + animal.hip * .55f), y * wide * .80f,
-		            std::sin(a) * r * wide * .80f};
+		Vec3 out     = {std::cos(a) * r * (half + animal.hip * .55f), y * wide * .80f,
+		                std::sin(a) * r * wide * .80f};
 		float wobble = walking ? std::sin(phase * 4 * PI - 1.4f + .09f * out.x) * .55f : 0;
 		float size   = 3.1f + .9f * Hash01(i, 3, 1);
 		model.Ball(c + axes * out + Vec3{0, wobble, 0}, size, coat, 1.3f);
@@ -252,16 +253,17 @@ Vec3 QuadrupedBuilder::FootOf(const Leg& leg, Vec3 joint) const
 	float height = LegHeight(leg);
 	Vec3 foot    = SteppingFoot(leg);
 	if (leg.front && tip > 0) { // paws hang while rearing
-		Vec3 hanging = joint + Vec3{3.0f + 1.2f * std::sin(tip * 3), -height * .62f,
-		                            leg.z > 0 ? 1.5f : -1.5f};
-		foot         = Mix(foot, hanging, Clamp01(pose.rear * 1.6f));
+		Vec3 hanging =
+		    joint + Vec3{3.0f + 1.2f * std::sin(tip * 3), -height * .62f, leg.z > 0 ? 1.5f : -1.5f};
+		foot = Mix(foot, hanging, Clamp01(pose.rear * 1.6f));
 	}
 	if (!leg.front && pose.kick > 0)
 		foot = Mix(foot, joint + Vec3{-height * .95f, height * .10f, 0},
 		           Smoothstep(0, .5f, pose.kick));
 	float fold = std::max(pose.tuck, pose.lie);
 	if (fold > 0) {
-		Vec3 folded = joint + Vec3{height * (leg.front ? .28f : .32f), -height * .62f, leg.z * .12f};
+		Vec3 folded =
+		    joint + Vec3{height * (leg.front ? .28f : .32f), -height * .62f, leg.z * .12f};
 		if (pose.lie > 0)
 			folded.y = animal.paw * .62f;
 		foot = Mix(foot, folded, fold);
@@ -303,7 +305,8 @@ void QuadrupedBuilder::AddLeg(const Leg& leg)
 Vec3 QuadrupedBuilder::HeadCentre(Vec3 base) const
 {
 	float r = animal.head.radius, chest = animal.chest;
-	Vec3 centre = shoulder + Vec3{animal.neckForward + chest * .5f, animal.neckUp + chest * .35f, 0};
+	Vec3 centre =
+	    shoulder + Vec3{animal.neckForward + chest * .5f, animal.neckUp + chest * .35f, 0};
 	if (tip > 0) {
 		Vec3 upright = shoulder + Vec3{animal.neckForward * .55f + chest * .25f,
 		                               animal.neckUp + chest * .75f, 0};
@@ -312,14 +315,14 @@ Vec3 QuadrupedBuilder::HeadCentre(Vec3 base) const
 	if (pose.headDown > 0) { // on an arc round the neck's base, or a long neck shrinks half way
 		float t       = pose.headDown;
 		Vec3 grazing  = shoulder + Vec3{animal.neckForward * 1.15f + chest * .55f,
-		                                -(animal.shoulderHeight - r * .95f), 0};
+                                       -(animal.shoulderHeight - r * GRAZING_HEIGHT), 0};
 		Vec3 straight = Mix(centre, grazing, t);
 		float reach   = Mix(Length(centre - base), Length(grazing - base), t);
 		centre        = base + Normalize(straight - base) * reach;
 	}
 	if (pose.lie > 0)
-		centre = Mix(centre,
-		             {shoulder.x + chest * .9f, r * .82f, view.NearSide() * chest * .5f}, pose.lie);
+		centre = Mix(centre, {shoulder.x + chest * .9f, r * .82f, view.NearSide() * chest * .5f},
+		             pose.lie);
 	if (walking)
 		centre.y += std::sin(phase * 4 * PI + HEAD_LAG) * .5f;
 	float behind = std::max(0.f, pose.look - 1); // looking back takes the head along
@@ -333,7 +336,8 @@ void QuadrupedBuilder::AddNeckAndHead()
 	Vec3 base   = shoulder + Vec3{animal.chest * .28f, animal.chest * .25f, 0};
 	Vec3 centre = HeadCentre(base);
 	float turn  = Radians(pose.look * 46 + animal.restTurn) * view.TowardViewer();
-	float pitch = Radians(animal.headPitch) - pose.headDown * .75f + pose.headTip + tip * .05f;
+	float pitch =
+	    Radians(animal.headPitch) - pose.headDown * GRAZING_TIP + pose.headTip + tip * .05f;
 	HeadFrame frame{centre, TurnY(turn) * TurnZ(pitch)};
 
 	Vec3 nape = centre - frame.Along(1.f, r * .1f, 0);
@@ -367,8 +371,8 @@ void QuadrupedBuilder::AddMane(const HeadFrame& frame, Vec3 base)
 		model.Ball(shoulder + Vec3{3, -2, 0}, chest * .86f, mane, 2);
 	} else if (animal.mane == ManeKind::Crest) {
 		for (int i = 0; i < 8; i++) {
-			Vec3 p = Mix(frame.Point(-r * .25f, r, 0),
-			             shoulder + Vec3{-chest * .25f, chest, 0}, i / 7.f);
+			Vec3 p = Mix(frame.Point(-r * .25f, r, 0), shoulder + Vec3{-chest * .25f, chest, 0},
+			             i / 7.f);
 			model.Ellipsoid(p, {2.2f, 2.4f, 1.5f}, Mat3(), mane, 1.2f);
 		}
 	} else if (animal.mane == ManeKind::Dewlap) {

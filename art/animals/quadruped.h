@@ -26,7 +26,7 @@ struct Quadruped {
 
 	TailKind tail    = TailKind::Stub;
 	float tailLength = 3, tailRadius = 2;
-	ManeKind mane    = ManeKind::None;
+	ManeKind mane = ManeKind::None;
 	Coat coat;
 	uint32_t legs = 0, feet = 0, tailTip = 0; // 0: as the coat, the legs, the mane
 	uint32_t maneColour = 0x3c2418;

@@ -130,10 +130,10 @@ void TailBuilder::AddPlume()
 void TailBuilder::AddRinged()
 {
 	Colour base = HexColour(animal.coat.base), dark = HexColour(animal.maneColour);
-	int rings   = model.Painted([from = root, l = len, base, dark](const SurfacePoint& at) {
-        float t = Length(at.position - from) / l;
-        return Mix(base, dark, Smoothstep(.0f, .2f, std::sin(t * 21.f)));
-    });
+	int rings = model.Painted([from = root, l = len, base, dark](const SurfacePoint& at) {
+		float t = Length(at.position - from) / l;
+		return Mix(base, dark, Smoothstep(.0f, .2f, std::sin(t * 21.f)));
+	});
 	model.Tube(root, root + Vec3{-len * .4f, -len * .25f, swing * .4f},
 	           root + Vec3{-len * .7f, -len * .15f, swing},
 	           root + Vec3{-len, len * .25f + raise, swing}, r * .8f, r, 5, rings, 1, .6f);
@@ -142,13 +142,7 @@ void TailBuilder::AddRinged()
 
 void AddTail(Model& model, const Quadruped& animal, const TailPlace& place)
 {
-	TailBuilder{model,
-	            animal,
-	            place,
-	            place.root,
-	            animal.tailLength,
-	            animal.tailRadius,
-	            place.swing,
-	            place.raise}
+	TailBuilder{model,       animal,     place, place.root, animal.tailLength, animal.tailRadius,
+	            place.swing, place.raise}
 	    .Add();
 }

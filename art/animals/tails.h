@@ -5,7 +5,7 @@
 
 struct TailPlace {
 	Vec3 root;
-	float swing, raise;              // sideways and upward
+	float swing, raise;             // sideways and upward
 	int coat, plainCoat, mane, tip; // materials
 };
 

@@ -10,10 +10,7 @@ struct WingBuilder {
 	const WingPlace& place;
 	int s;
 
-	Vec3 OnBody(float x, float y, float z) const
-	{
-		return place.body + place.axes * Vec3{x, y, z};
-	}
+	Vec3 OnBody(float x, float y, float z) const { return place.body + place.axes * Vec3{x, y, z}; }
 	void AddFolded();
 	void AddFlipper();
 	void AddSpread();
@@ -34,12 +31,13 @@ void WingBuilder::AddFolded()
 	for (int i = 0; i < 3; i++) {
 		Vec3 from = centre + axes * Vec3{-length * .30f, -width * (.05f + .30f * i),
 		                                 bird.bodyRadius * .08f * s};
-		Vec3 to   = centre + axes * Vec3{-length * (1.08f - .16f * i), -width * (.18f + .30f * i), 0};
+		Vec3 to = centre + axes * Vec3{-length * (1.08f - .16f * i), -width * (.18f + .30f * i), 0};
 		model.RoundCone(from, to, width * .36f, width * .20f, place.tip, .25f);
 	}
 	if (bird.wingBar)
-		model.Ellipsoid(centre + axes * Vec3{-length * .30f, -width * .42f, bird.bodyRadius * .20f * s},
-		                {length * .24f, width * .30f, bird.bodyRadius * .16f}, axes, place.bar, .1f);
+		model.Ellipsoid(
+		    centre + axes * Vec3{-length * .30f, -width * .42f, bird.bodyRadius * .20f * s},
+		    {length * .24f, width * .30f, bird.bodyRadius * .16f}, axes, place.bar, .1f);
 }
 
 void WingBuilder::AddFlipper()
@@ -67,11 +65,10 @@ void WingBuilder::AddSpread()
 	float flap  = pose.flying ? pose.flap : -.1f + .9f * pose.armsUp;
 	float tip   = pose.flying ? pose.flapTip : flap;
 	float inner = .18f + flap * .95f, outer = inner * .45f + tip * .75f;
-	Vec3 d1 = Normalize({.12f, std::sin(inner), s * std::cos(inner)});
-	Vec3 d2 = Normalize({-.30f, std::sin(outer), s * std::cos(outer)});
+	Vec3 d1    = Normalize({.12f, std::sin(inner), s * std::cos(inner)});
+	Vec3 d2    = Normalize({-.30f, std::sin(outer), s * std::cos(outer)});
 	float span = bird.span, chord = bird.chord;
-	Vec3 root =
-	    OnBody(bird.bodyLength * .22f, bird.bodyRadius * .50f, s * bird.bodyRadius * .45f);
+	Vec3 root  = OnBody(bird.bodyLength * .22f, bird.bodyRadius * .50f, s * bird.bodyRadius * .45f);
 	Vec3 wrist = root + d1 * span;
 	AddFeathers(root, wrist, d1, d2); // before the panels, whose blend then covers their roots
 	model.Ellipsoid(Mix(root, wrist, .48f) + Vec3{-chord * .12f, 0, 0},

@@ -17,8 +17,8 @@ static const double TAIL       = 2.5; // seconds that a last chord rings
 static const double FADE_OUT   = .6;  // seconds at the end of it
 static const double LEAD_IN    = 6;   // seconds of its end that a loop plays before its start
 static const double SHORTEST   = .03; // seconds of a note
-static const int NORMAL        = 110, VIBRATO_CONTROLLER = 1, EXPRESSION = 11;
-static const int DRUM_BANK     = 128;
+static const int NORMAL = 110, VIBRATO_CONTROLLER = 1, EXPRESSION = 11;
+static const int DRUM_BANK   = 128;
 static const int BEND_CENTRE = 8192, BEND_SEMITONE = 4096;
 static const double SCOOP   = .11; // seconds that a slide takes
 static const int BEND_STEPS = 10;
@@ -49,14 +49,14 @@ struct Synth {
 Synth::Synth()
 {
 	fluid_set_log_function(FLUID_WARN, nullptr, nullptr); // it complains of unused drivers
-	settings                                        = new_fluid_settings();
-	const std::map<const char*, double> NUMBERS     = {
-        {"synth.sample-rate", SAMPLE_RATE}, {"synth.gain", SYNTH_GAIN},
-        {"synth.reverb.room-size", .62},    {"synth.reverb.damp", .35},
-        {"synth.reverb.width", .8},         {"synth.reverb.level", .55},
-        {"synth.chorus.level", 1.2},        {"synth.chorus.speed", .3},
-        {"synth.chorus.depth", 6},
-    };
+	settings                                    = new_fluid_settings();
+	const std::map<const char*, double> NUMBERS = {
+	    {"synth.sample-rate", SAMPLE_RATE}, {"synth.gain", SYNTH_GAIN},
+	    {"synth.reverb.room-size", .62},    {"synth.reverb.damp", .35},
+	    {"synth.reverb.width", .8},         {"synth.reverb.level", .55},
+	    {"synth.chorus.level", 1.2},        {"synth.chorus.speed", .3},
+	    {"synth.chorus.depth", 6},
+	};
 	for (auto& [key, value] : NUMBERS)
 		fluid_settings_setnum(settings, key, value);
 	const std::map<const char*, int> COUNTS = {
@@ -125,8 +125,8 @@ static std::vector<Event> EventsOf(const Score& score, int only)
 	for (size_t i = 0; i < score.players.size(); i++)
 		events.push_back({0, EVENT_CONTROL, (int)i, EXPRESSION, NORMAL});
 	for (const Turn& turn : score.turns)
-		events.push_back({score.Seconds(turn.at), EVENT_CONTROL, turn.player, turn.controller,
-		                  turn.value});
+		events.push_back(
+		    {score.Seconds(turn.at), EVENT_CONTROL, turn.player, turn.controller, turn.value});
 	struct Held {
 		double on, off;
 		const Played* note;
@@ -143,8 +143,7 @@ static std::vector<Event> EventsOf(const Score& score, int only)
 		                 [](const Held& a, const Held& b) { return a.on < b.on; });
 		for (size_t i = 0; i < held.size(); i++) {
 			double off = i + 1 < held.size() ? std::min(held[i].off, held[i + 1].on) : held[i].off;
-			events.push_back({held[i].on, EVENT_ON, key.first, key.second,
-			                  held[i].note->velocity});
+			events.push_back({held[i].on, EVENT_ON, key.first, key.second, held[i].note->velocity});
 			events.push_back({off, EVENT_OFF, key.first, key.second, 0});
 			if (held[i].note->scoop)
 				AddScoop(events, held[i].on, key.first);
@@ -168,12 +167,18 @@ static void AddLeadIn(std::vector<Event>& events, double length)
 	}
 }
 
+std::string SoundFontFault(const std::string& path)
+{
+	if (std::filesystem::exists(path))
+		return "";
+	return "the sound font " + path + " is missing; install the package fluid-soundfont-gm";
+}
+
 bool Perform(const Score& score, Sound& sound, std::string& fault, int only)
 {
 	fault = score.fault.empty() ? "" : score.name + ": " + score.fault;
-	if (fault.empty() && !std::filesystem::exists(SOUND_FONT))
-		fault = std::string("the sound font ") + SOUND_FONT +
-		        " is missing; install the package fluid-soundfont-gm";
+	if (fault.empty())
+		fault = SoundFontFault(SOUND_FONT);
 	if (!fault.empty())
 		return false;
 	Synth synth;
@@ -195,7 +200,7 @@ bool Perform(const Score& score, Sound& sound, std::string& fault, int only)
 	std::stable_sort(events.begin(), events.end(), earlier);
 
 	size_t leadIn = score.loops ? SampleCount(LEAD_IN) : 0;
-	size_t total  = leadIn + SampleCount(length + (score.loops ? 0 : TAIL)), at = 0;
+	size_t total = leadIn + SampleCount(length + (score.loops ? 0 : TAIL)), at = 0;
 	std::vector<float> left(total), right(total);
 	auto play = [&](size_t to) {
 		to = std::min(to, total);

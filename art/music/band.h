@@ -5,6 +5,8 @@
 #include "art/sounds/loudness.h"
 
 extern const char* const SOUND_FONT; // the file that all instruments come from
+// Says in one line that the file is missing; empty when it is there.
+std::string SoundFontFault(const std::string& path);
 
 // The raw recording. A score that loops gives one pass whose start carries the tails of its end;
 // others end in silence. `only`: a single player, -1 for all. False, with the reason in `fault`,

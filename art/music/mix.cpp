@@ -13,8 +13,8 @@ static const double CEILING    = -2;   // dB; coding adds up to 0.8
 static const double LOOK_AHEAD = .004; // seconds
 static const int PASSES        = 2;    // the limiter takes a little of the loudness
 static const double K_OFFSET   = -.691;
-static const double SILENCE    = -70; // LUFS; windows below don't count
-static const double GATE       = -10, RANGE_GATE = -20; // LU under the mean
+static const double SILENCE    = -70;             // LUFS; windows below don't count
+static const double GATE = -10, RANGE_GATE = -20; // LU under the mean
 
 void Equalise(Sound& sound)
 {
@@ -91,7 +91,7 @@ static void LimitBoth(Sound& sound, bool around)
 {
 	double ceiling = FromDb(CEILING);
 	long length = (long)sound.left.size(), ahead = (long)SampleCount(LOOK_AHEAD);
-	auto place = [&](long i) { return around ? (i + length) % length : i; };
+	auto place  = [&](long i) { return around ? (i + length) % length : i; };
 	auto inside = [&](long i) { return around || (i >= 0 && i < length); };
 	Wave held(sound.left.size(), 1.0);
 	for (long i = 0; i < length; i++) {
@@ -102,7 +102,7 @@ static void LimitBoth(Sound& sound, bool around)
 			if (inside(j))
 				held[place(j)] = std::min(held[place(j)], ceiling / peak);
 	}
-	auto need = [&](long i) { return inside(i) ? held[place(i)] : 1.0; };
+	auto need  = [&](long i) { return inside(i) ? held[place(i)] : 1.0; };
 	double sum = 0;
 	for (long j = -ahead; j <= ahead; j++)
 		sum += need(j);

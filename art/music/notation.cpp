@@ -158,7 +158,10 @@ bool LineReader::Read(const std::string& word)
 Line ReadLine(const std::string& text, double barLength)
 {
 	LineReader reader(barLength);
-	std::istringstream in(text + " |");
+	std::string spaced;
+	for (char c : text + "|")
+		spaced += c == '|' ? std::string(" | ") : std::string(1, c);
+	std::istringstream in(spaced);
 	std::string word;
 	while (in >> word) {
 		std::string bar = "bar " + std::to_string(reader.line.bars + 1);

@@ -14,8 +14,8 @@ static std::string Place(const Score& score, double quarter)
 		if (section.at <= quarter + TOUCH) {
 			double inside = quarter - section.at + 1e-6;
 			char where[64];
-			std::snprintf(where, sizeof where, ", bar %d, quarter %.2f: ",
-			              1 + (int)(inside / score.barLength),
+			std::snprintf(where, sizeof where,
+			              ", bar %d, quarter %.2f: ", 1 + (int)(inside / score.barLength),
 			              1 + std::fmod(inside, score.barLength));
 			text = score.name + ", " + section.name + where;
 		}
@@ -40,8 +40,8 @@ std::vector<std::string> OffChord(const Score& score)
 		for (double beat = 0; beat < section.bars * score.barLength - TOUCH; beat += every)
 			for (const Chord& chord : section.chords)
 				for (const Note& note : section.lead) {
-					bool meet = Sounds(chord.at, chord.length, beat) &&
-					            Sounds(note.at, note.length, beat);
+					bool meet =
+					    Sounds(chord.at, chord.length, beat) && Sounds(note.at, note.length, beat);
 					if (meet && !std::count(chord.tones.begin(), chord.tones.end(), note.key % 12))
 						slips.push_back(Place(score, section.at + beat) + KeyName(note.key) +
 						                " over " + chord.name);

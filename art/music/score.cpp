@@ -14,9 +14,9 @@ static const int NORMAL          = 110; // expression
 static const int EXPRESSION      = 11;
 static const int SWELL_STEPS     = 24;
 static const double MELODY_LOOSE = .006, CHORD_LOOSE = .005, GROUND_LOOSE = .004; // seconds
-static const double GRACE        = .075; // seconds
-static const int PHRASE_ARC      = 7;    // velocity gained in the middle of four bars
-static const double HEIGHT_GAIN  = .35;  // velocity a semitone above C5
+static const double GRACE       = .075;                                           // seconds
+static const int PHRASE_ARC     = 7;   // velocity gained in the middle of four bars
+static const double HEIGHT_GAIN = .35; // velocity a semitone above C5
 static const int BASS_LOW = 36, BASS_HIGH = 52;
 
 // clang-format off
@@ -140,9 +140,9 @@ void Score::Sing(const Part& part, const ::Line& line, int velocity, const Manne
 			continue;
 		}
 		double phrase = std::fmod(note.at, 4 * barLength) / (4 * barLength);
-		int arc = (int)(PHRASE_ARC * std::sin(M_PI * phrase) + (note.key - 72) * HEIGHT_GAIN);
-		int accent = Accent(note.at) + (note.accent ? 10 : 0);
-		double gate = note.staccato ? .45 : manner.gate;
+		int arc       = (int)(PHRASE_ARC * std::sin(M_PI * phrase) + (note.key - 72) * HEIGHT_GAIN);
+		int accent    = Accent(note.at) + (note.accent ? 10 : 0);
+		double gate   = note.staccato ? .45 : manner.gate;
 		Play(part, start + note.at, note.length * gate, key, velocity + arc + accent, MELODY_LOOSE,
 		     0, note.scoop);
 	}
@@ -180,13 +180,14 @@ static bool RowIsGood(const std::string& row, const char* marks)
 	return !row.empty() && row.find_first_not_of(marks) == std::string::npos;
 }
 
-static void ForEachStep(const Section& section, double barLength, const std::string& row,
-                        Span span, const std::function<void(const Step&)>& call)
+static void ForEachStep(const Section& section, double barLength, const std::string& row, Span span,
+                        const std::function<void(const Step&)>& call)
 {
 	double from = span.bar * barLength;
 	double to   = (span.bars ? span.bar + span.bars : section.bars) * barLength;
 	for (const Chord& chord : section.chords) {
-		int first = (int)std::lround(chord.at / STEP), count = (int)std::lround(chord.length / STEP);
+		int first = (int)std::lround(chord.at / STEP),
+		    count = (int)std::lround(chord.length / STEP);
 		for (int i = 0; i < count; i++) {
 			double at = chord.at + i * STEP;
 			if (at < from - 1e-6 || at > to - 1e-6)

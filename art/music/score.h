@@ -84,11 +84,11 @@ public:
 	explicit Score(const std::string& name);
 
 	// set before the first section
-	double tempo     = 120; // quarters a minute
-	double barLength = 4;   // quarters
+	double tempo     = 120;   // quarters a minute
+	double barLength = 4;     // quarters
 	bool compound    = false; // three quarters are two dotted beats (six-eight)
-	double swing     = 0;   // 0 even, 1/3 the feel of triplets
-	int transpose    = 0;   // semitones; pieces are written in C
+	double swing     = 0;     // 0 even, 1/3 the feel of triplets
+	int transpose    = 0;     // semitones; pieces are written in C
 	bool loops       = false;
 	double loudness  = -16; // LUFS
 
@@ -118,8 +118,8 @@ private:
 	int Accent(double at) const;
 	double Random(); // gauss, about -2..2
 
-	double end = 0; // quarters
-	int lift   = 0;
+	double end      = 0; // quarters
+	int lift        = 0;
 	double slowFrom = 0, slowTo = 0, slowBy = 0;
 	uint64_t state;
 };

@@ -22,7 +22,7 @@ inline const char* const THEME_B =
 	"c5q a4e c5q f5q. | e5q c5e e5q g5q. | f#5q a5q g5q b4q | c5h. rq";
 inline const char* const THEME_B_CHORDS = "F | C/E | Dm | Am | F | C/E | D7 G7 | C";
 inline const char* const THEME_B_COUNTER =
-	"c4h f4h | e4h g4h | a4h f4h | e4q a4q g4q e4q |"
+	"c4h f4h | e4h g4h | a4h f4h | c4q e4q a4q e4q |"
 	"f4h a4h | g4h e4h | f#4h f4h | e4q g4q e4h";
 
 // The bridge, in the relative minor.

@@ -5,16 +5,16 @@ namespace
 {
 struct Title {
 	Score& score;
-	Part flute    = score.Add(FLUTE, 104, 70, 60);
-	Part glock    = score.Add(GLOCK, 84, 84, 70);
-	Part clarinet = score.Add(CLARINET, 88, 48, 55);
+	Part flute    = score.Add(FLUTE, 94, 70, 60);
+	Part glock    = score.Add(GLOCK, 114, 84, 70);
+	Part clarinet = score.Add(CLARINET, 78, 48, 55);
 	Part marimba  = score.Add(MARIMBA, 88, 40, 45);
-	Part guitar   = score.Add(NYLON, 80, 88, 35);
+	Part guitar   = score.Add(NYLON, 106, 88, 35);
 	Part bass     = score.Add(BASS, 94, 62, 15);
 	Part pizz     = score.Add(PIZZICATO, 84, 52, 55);
-	Part strings  = score.Add(STRINGS, 74, 64, 70, 10);
-	Part horn     = score.Add(HORN, 80, 56, 65);
-	Part kit      = score.Add(KIT, 92, 64, 30);
+	Part strings  = score.Add(STRINGS, 88, 64, 70, 10);
+	Part horn     = score.Add(HORN, 88, 56, 65);
+	Part kit      = score.Add(KIT, 102, 64, 30);
 
 	void Intro();
 	void Tune();
@@ -32,7 +32,8 @@ static const char* const LIGHT = "shaker x.o.x.o.x.o.x.o. | rim ....x.......x...
 static const char* const FULL  = "kick x.....x.x....... | snare ....x.......x..o |"
                                  "hat x.o.x.o.x.o.x.oo | tamb ....o.......o...";
 static const char* const FILL  = "kick x.....x.x....... | snare ....x.....o.xoxo |"
-                                 "tomhigh ........xx...... | tomlow ..........x..... | hat x.o.x...........";
+                                 "tomhigh ........xx...... | tomlow ..........x..... |"
+                                 "hat x.o.x...........";
 
 // What walks under most sections.
 void Title::Groove()
@@ -107,11 +108,17 @@ void Title::Bridge()
 	marimba.Roll("1.5.8.5.0.8.5.8.", 48, 54);
 	horn.Lead(BRIDGE, 82, {.octave = OCTAVE_DOWN});
 	glock.Line("rh e6e c6e a5q | R | rh a5e c6e f6q | R | rh e6e c6e a5q | R3", 48);
-	clarinet.Line("R | rh e5e g5e b4q | R | rq g4e c5e e5h | R | rh g4q b4q | a4h d5h | d5q b4q g4q rq", 60);
+	clarinet.Line("R | rh e5e g5e b4q | R | rq g4e c5e e5h | R | rh g4q b4q | a4h d5h |"
+	              "d5q b4q g4q rq",
+	              60);
 	flute.Line("R3 | R3 | rh. f5e a5e | b5h. g4e a4e", 72);
 	kit.Beat("shaker x.x.x.x.x.x.x.x. | rim ........x.......", 52, {.bar = 0, .bars = 6});
-	kit.Beat("shaker x.x.x.x.x.x.x.x. | snare x..ox..ox..ox.oo | kick x...x...x...x...", 54, {.bar = 6, .bars = 1});
-	kit.Beat("snare xoxoxoxoxxxxXXXX | kick x...x...x...x... | tomlow ............x.x.", 54, {.bar = 7});
+	kit.Beat("shaker x.x.x.x.x.x.x.x. | snare x..ox..ox..ox.oo |"
+	         "kick x...x...x...x...",
+	         54, {.bar = 6, .bars = 1});
+	kit.Beat("snare xoxoxoxoxxxxXXXX | kick x...x...x...x... |"
+	         "tomlow ............x.x.",
+	         54, {.bar = 7});
 }
 
 void Title::TuneInFull()
@@ -123,7 +130,9 @@ void Title::TuneInFull()
 	strings.Swell(0, 8, 100, 116);
 	glock.Line(THEME_A, 48, {.octave = OCTAVE_UP});
 	clarinet.Line(THEME_A_DESCANT, 76);
-	horn.Line("g4h. rq | e4h. rq | a4h f4h | g4h b4h | g4h. rq | e4h. rq | f4h g4h | e4h. rq", 58);
+	horn.Line("g4h. rq | e4h. rq | a4h f4h | g4h b4h | g4h. rq | e4h. rq | f4h g4h |"
+	          "e4h. rq",
+	          58);
 	pizz.Strike("x...x...x...x...", 55, 60, .4);
 	kit.Beat("crash x...............", 58, {.bar = 0, .bars = 1});
 	kit.Beat(FULL, 66, {.bar = 0, .bars = 3});

@@ -1,6 +1,7 @@
 // A value that moves in time: pitch, loudness or a formant over the course of a sound.
 #pragma once
 
+#include <cstddef>
 #include <initializer_list>
 #include <vector>
 

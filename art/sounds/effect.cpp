@@ -6,9 +6,9 @@
 #include "art/sounds/vorbis_file.h"
 
 static const float MONO_QUALITY = .5f, STEREO_QUALITY = .4f;
-static const double TAIL_FLOOR  = -60;  // dB under the peak
-static const double RUMBLE      = 30;   // Hz; below lies nothing that anyone hears
-static const double CALL_SHELF  = 1500, HIT_SHELF = 1800; // Hz
+static const double TAIL_FLOOR = -60;                    // dB under the peak
+static const double RUMBLE     = 30;                     // Hz; below lies nothing that anyone hears
+static const double CALL_SHELF = 1500, HIT_SHELF = 1800; // Hz
 static const double HIT_SILENCE = .003, HIT_FADE = .0012; // seconds
 
 static void Add(Sink& sink, const std::string& name, const Sound& sound)

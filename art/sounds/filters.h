@@ -69,8 +69,8 @@ struct Resonator {
 	}
 	double Run(double x)
 	{
-		double y = a * x + b * y1 + c * y2;
-		y2       = y1;
+		double y  = a * x + b * y1 + c * y2;
+		y2        = y1;
 		return y1 = y;
 	}
 };

@@ -3,10 +3,10 @@
 
 #include <cmath>
 
-static const double SOURCE_LEVEL  = .3; // mean level of a cycle
-static const double CUTOFF        = 19000; // Hz
-static const int HALF_TAPS        = 64;
-static const int AREA_STEPS       = 1000;
+static const double SOURCE_LEVEL = .3;    // mean level of a cycle
+static const double CUTOFF       = 19000; // Hz
+static const int HALF_TAPS       = 64;
+static const int AREA_STEPS      = 1000;
 
 namespace
 {
@@ -68,9 +68,9 @@ static Wave DecimatorTaps()
 	Wave taps(2 * HALF_TAPS + 1);
 	double cut = CUTOFF / (SAMPLE_RATE * OVERSAMPLING), sum = 0;
 	for (int i = -HALF_TAPS; i <= HALF_TAPS; i++) {
-		double sinc   = i ? std::sin(TAU * cut * i) / (TAU / 2 * i) : 2 * cut;
-		double angle  = TAU / 2 * i / HALF_TAPS;
-		double window = .42 + .5 * std::cos(angle) + .08 * std::cos(2 * angle);
+		double sinc                = i ? std::sin(TAU * cut * i) / (TAU / 2 * i) : 2 * cut;
+		double angle               = TAU / 2 * i / HALF_TAPS;
+		double window              = .42 + .5 * std::cos(angle) + .08 * std::cos(2 * angle);
 		sum += taps[i + HALF_TAPS] = sinc * window;
 	}
 	Scale(taps, 1 / sum);

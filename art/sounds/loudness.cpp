@@ -3,10 +3,10 @@
 
 #include "art/sounds/filters.h"
 
-static const double CEILING      = -2;   // dB; coding adds up to 0.8
-static const double LOOK_AHEAD   = .004; // seconds
-static const int LEVEL_PASSES    = 3;    // the limiter takes a little of the level each time
-static const double K_OFFSET     = -.691, K_SHELF_DB = 3.99984;
+static const double CEILING    = -2;   // dB; coding adds up to 0.8
+static const double LOOK_AHEAD = .004; // seconds
+static const int LEVEL_PASSES  = 3;    // the limiter takes a little of the level each time
+static const double K_OFFSET = -.691, K_SHELF_DB = 3.99984;
 
 namespace
 {
@@ -15,10 +15,10 @@ struct Biquad {
 
 	double Run(double x)
 	{
-		double y = b0 * x + b1 * x1 + b2 * x2 - a1 * y1 - a2 * y2;
-		x2       = x1;
-		x1       = x;
-		y2       = y1;
+		double y  = b0 * x + b1 * x1 + b2 * x2 - a1 * y1 - a2 * y2;
+		x2        = x1;
+		x1        = x;
+		y2        = y1;
 		return y1 = y;
 	}
 };

@@ -5,7 +5,7 @@
 #include "art/sounds/filters.h"
 
 static const double HIGHEST_MODE = 18000; // Hz
-static const Strike MALLET_BLOW  = {6000, .0008, .03}, BELL_BLOW = {12000, .0003, .02};
+static const Strike MALLET_BLOW = {6000, .0008, .03}, BELL_BLOW = {12000, .0003, .02};
 
 static Wave Blow(const Strike& strike, size_t length, uint64_t seed)
 {
@@ -23,7 +23,8 @@ static Wave Blow(const Strike& strike, size_t length, uint64_t seed)
 static void AddMode(Wave& out, const Wave& blow, const Mode& mode)
 {
 	double radius = std::pow(10.0, -3 / (mode.decay * SAMPLE_RATE));
-	double turn = TAU * mode.hz / SAMPLE_RATE, b = 2 * radius * std::cos(turn), c = -radius * radius;
+	double turn = TAU * mode.hz / SAMPLE_RATE, b = 2 * radius * std::cos(turn),
+	       c    = -radius * radius;
 	double gain = mode.gain * std::sin(turn), y1 = 0, y2 = 0;
 	for (size_t i = 0; i < out.size(); i++) {
 		double y = blow[i] + b * y1 + c * y2;
@@ -67,8 +68,8 @@ Wave Mallet(double hz, double seconds, double chime, uint64_t seed)
 
 Wave Plank(double hz, double decay, uint64_t seed, double hardness)
 {
-	static const Mode BENDING[] = {{1, 1, .55},     {1.52, .77, .8}, {2.76, .62, 1}, {3.6, .53, .85},
-	                               {5.4, .45, .6},  {7.2, .4, .45},  {8.93, .36, .3}};
+	static const Mode BENDING[] = {{1, 1, .55},    {1.52, .77, .8}, {2.76, .62, 1}, {3.6, .53, .85},
+	                               {5.4, .45, .6}, {7.2, .4, .45},  {8.93, .36, .3}};
 	Chance chance(seed);
 	std::vector<Mode> modes;
 	for (const Mode& m : BENDING)

@@ -4,10 +4,10 @@
 #include "art/sounds/chance.h"
 #include "art/sounds/filters.h"
 
-static const double HIGHEST     = 16000; // Hz; harmonics above are left out
-static const size_t STEP        = 16;    // samples from one look at a filter's curve to the next
-static const int SAW_HARMONICS  = 11;
-static const double SAWS_APART  = 1.007;
+static const double HIGHEST    = 16000; // Hz; harmonics above are left out
+static const size_t STEP       = 16;    // samples from one look at a filter's curve to the next
+static const int SAW_HARMONICS = 11;
+static const double SAWS_APART = 1.007;
 
 double NoteHz(const std::string& note)
 {

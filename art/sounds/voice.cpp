@@ -5,13 +5,13 @@
 #include "art/sounds/filters.h"
 #include "art/sounds/glottis.h"
 
-static const double RATE        = (double)SAMPLE_RATE * OVERSAMPLING;
-static const size_t CYCLE_SIZE  = 4096;
-static const size_t STEP        = 32; // samples from one look at the curves to the next
-static const double FADE_IN     = .003, FADE_OUT = .008; // seconds
-static const double NOSE_RING   = 260, NOSE_GAP = 850; // Hz: what a nose lifts and swallows
-static const double TONE_LEVEL  = .4;
-static const double HIGHEST     = 18000; // Hz; harmonics above are left out
+static const double RATE       = (double)SAMPLE_RATE * OVERSAMPLING;
+static const size_t CYCLE_SIZE = 4096;
+static const size_t STEP       = 32; // samples from one look at the curves to the next
+static const double FADE_IN = .003, FADE_OUT = .008; // seconds
+static const double NOSE_RING = 260, NOSE_GAP = 850; // Hz: what a nose lifts and swallows
+static const double TONE_LEVEL = .4;
+static const double HIGHEST    = 18000; // Hz; harmonics above are left out
 
 namespace
 {
@@ -29,12 +29,12 @@ public:
 		if (phase < 1)
 			return;
 		phase -= 1;
-		odd    = !odd;
-		wander = .8 * wander + .2 * chance.Normal();
-		stretch = std::clamp(1 + syllable.jitter * chance.Normal() +
-		                         rough * (.10 * chance.Normal() + .12 * wander) +
-		                         (odd ? 1 : -1) * .03 * sub,
-		                     .5, 1.8);
+		odd           = !odd;
+		wander        = .8 * wander + .2 * chance.Normal();
+		stretch       = std::clamp(1 + syllable.jitter * chance.Normal() +
+		                               rough * (.10 * chance.Normal() + .12 * wander) +
+		                               (odd ? 1 : -1) * .03 * sub,
+		                           .5, 1.8);
 		double uneven = 1 + syllable.shimmer * chance.Normal() + .35 * rough * chance.Normal();
 		size          = std::max(.05, std::min(1.6, uneven) * (odd ? 1 - sub : 1));
 	}

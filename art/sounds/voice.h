@@ -16,7 +16,7 @@ struct Syllable {
 
 	// the throat: moving formants; more follow above at the same spacing up to `fillTo`
 	std::vector<Curve> formants = {};
-	double pressed              = 1; // the folds: 0.35 harsh, 0.6 bleat, 1 soft moo
+	double pressed              = 1;  // the folds: 0.35 harsh, 0.6 bleat, 1 soft moo
 	std::vector<double> tone    = {}; // weights of harmonics: a whistle or hoot in place of folds
 
 	// breath that the open folds let through; 1 is breath alone
@@ -24,17 +24,17 @@ struct Syllable {
 	double breathHz = 5000; // its colour
 
 	// roughness
-	Curve rough    = 0; // cycles of uneven length and size: 0.3 hoarse, 0.8 a roar
-	Curve sub      = 0; // every second cycle weaker: a growl an octave below
-	double jitter  = .008, shimmer = .05;
+	Curve rough   = 0; // cycles of uneven length and size: 0.3 hoarse, 0.8 a roar
+	Curve sub     = 0; // every second cycle weaker: a growl an octave below
+	double jitter = .008, shimmer = .05;
 
 	double tremolo = 0, tremoloLoud = 0, tremoloPitch = 0; // Hz; bleat, whinny, rolled coo
 	double growl = 0, growlDepth = 0;                      // Hz; slow uneven beats of loudness
 
-	Curve mouth      = 18000; // the lips let through what lies below
-	Curve nose       = 0;     // 1: a hum through the nose, mouth shut
+	Curve mouth      = 18000;                    // the lips let through what lies below
+	Curve nose       = 0;                        // 1: a hum through the nose, mouth shut
 	double bandwidth = 60, bandwidthShare = .07; // of a formant: Hz, and share of its own frequency
-	double fillTo    = 8000;
+	double fillTo = 8000;
 };
 
 using Call = std::vector<Syllable>;

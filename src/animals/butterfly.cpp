@@ -16,7 +16,8 @@ static const ActionRow s_actions[] = {
 };
 
 static const BodyPoint s_body[] = {
-	{ 5, 12 }, { 9, 17 }, { 16, 18 }, { 21, 13 }, { 17, 7 }, { 9, 7 },
+	{ 4, 15 }, { 7, 20 }, { 14, 22 }, { 22, 20 },
+	{ 24, 15 }, { 22, 10 }, { 15, 8 }, { 7, 10 },
 };
 
 const SpeciesTable BUTTERFLY_TABLES[3] = {

@@ -15,7 +15,8 @@ static const ActionRow s_actions[] = {
 };
 
 static const BodyPoint s_body[] = {
-	{ 3, 11 }, { 6, 15 }, { 11, 16 }, { 16, 13 }, { 14, 8 }, { 8, 7 },
+	{ 3, 12 }, { 6, 14 }, { 11, 15 }, { 16, 14 },
+	{ 19, 12 }, { 16, 9 }, { 11, 8 }, { 6, 9 },
 };
 // clang-format on
 

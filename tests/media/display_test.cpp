@@ -58,7 +58,7 @@ TEST_F(DisplayTest, UnknownAndUndecodableImagesAreFatal)
 
 TEST_F(DisplayTest, SoundsInTheImageContainerArePassedOver)
 {
-	CTinyData plain({});
+	CTinyData plain;
 	display->Preload();
 	const int countBefore = display->ImageLoadingCount();
 	CTinyData mixed({{"a.ogg", Bytes(9)}, {"bwav", Bytes(9)}, {"c.OGG", Bytes(9)}});

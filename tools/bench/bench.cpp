@@ -15,6 +15,10 @@
 #include "media/display.h"
 #include "media/render_manager.h"
 #include "screens/game.h"
+#include "sound/sound.h"
+#include "sound/sound_manager.h"
+#include "sound/sound_output.h"
+#include "sound/sound_state.h"
 #include "state/game_data.h"
 #include "support/world.h"
 
@@ -23,8 +27,10 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
 #include <filesystem>
 #include <fstream>
+#include <memory>
 #include <vector>
 
 static const double FRAME_MS = 33;
@@ -250,9 +256,58 @@ static void StartUp(benchmark::State& state)
 }
 BENCHMARK(StartUp)->UseManualTime()->Iterations(5)->Unit(benchmark::kMillisecond);
 
+// A second of music and twenty voices, mixed as for a device: the processor time of all threads.
+// Beside it what the sound adds to start-up and to memory.
+static void SoundMix(benchmark::State& state)
+{
+	CWorld world;
+	if (!std::filesystem::exists("title.mdt")) {
+		state.SkipWithError("the data folder holds no music");
+		return;
+	}
+	ChooseSoundOutput(SOUND_OUTPUT_CAPTURE);
+	const double megabytesBefore = ResidentMegabytes();
+	const auto start             = std::chrono::steady_clock::now();
+	SoundInit(true);
+	LoadMusicTracks();
+	LoadSoundResources(nullptr);
+	const std::chrono::duration<double> loading = std::chrono::steady_clock::now() - start;
+
+	std::vector<std::unique_ptr<CSound>> voices;
+	for (const auto& [name, index] : preloadedSounds) {
+		voices.push_back(std::make_unique<CSound>(name));
+		voices.back()->Play(true, 0, 1.01f); // bent, so that nothing is merely copied
+		if (voices.size() == 20)
+			break;
+	}
+	PlayTitleMusic();
+	const int frames               = 30;
+	const std::clock_t ticksBefore = std::clock();
+	CRounds rounds;
+	for (auto _ : state) {
+		rounds.Begin();
+		for (int i = 0; i < frames; i++) {
+			SoundUpdate();
+			CaptureSound(CAPTURE_RATE / frames);
+		}
+		rounds.End(state);
+	}
+	const double spent = static_cast<double>(std::clock() - ticksBefore) / CLOCKS_PER_SEC;
+	rounds.Report(state);
+	state.counters["core_share%"] = spent / static_cast<double>(state.iterations()) * 100;
+	state.counters["start_ms"]    = loading.count() * 1000;
+	state.counters["sounds_MiB"]  = ResidentMegabytes() - megabytesBefore;
+	voices.clear();
+	DeleteMusicTracks();
+	SoundShutdown();
+	ChooseSoundOutput(SOUND_OUTPUT_NONE);
+}
+BENCHMARK(SoundMix)->UseManualTime()->Iterations(60)->Unit(benchmark::kMillisecond);
+
 int main(int argc, char** argv)
 {
 	setenv("SDL_VIDEODRIVER", "dummy", 1);
+	ChooseSoundOutput(SOUND_OUTPUT_NONE);
 	s_toolFolder = std::filesystem::canonical("/proc/self/exe").parent_path();
 	benchmark::Initialize(&argc, argv);
 	benchmark::RunSpecifiedBenchmarks();

@@ -1,8 +1,10 @@
 // drive: the real program, headless and on a clock of its own, played from a script.
 #include "drive/driver.h"
+#include "drive/recorder.h"
 
 #include "frame/clock.h"
 #include "frame/program.h"
+#include "sound/sound_output.h"
 #include "state/save_folder.h"
 
 #include <SDL.h>
@@ -11,14 +13,17 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <memory>
 
 static const char* s_usage =
-    "usage: drive [--mode N] [--seed S] [--home DIR] [--data DIR] [--realtime] SCRIPT\n"
+    "usage: drive [--mode N] [--seed S] [--home DIR] [--data DIR] [--realtime]\n"
+    "             [--sound FILE.wav] SCRIPT\n"
     "SCRIPT is a file, or - for standard input. --mode as the game's own argument; --home is the\n"
-    "per-user folder. Exit 0; 1 when an until or expect fails; 2 for an error in the script.\n";
+    "per-user folder; --sound records what would be heard. Exit 0; 1 when an until or expect "
+    "fails; 2 for an error in the script.\n";
 
 struct DriveOptions {
-	std::string mode, home, script;
+	std::string mode, home, script, sound;
 	std::string data  = QUORBLET_DATA;
 	unsigned int seed = 1;
 	bool realtime     = false;
@@ -37,6 +42,8 @@ static bool ParseOptions(int argc, char** argv, DriveOptions& options)
 			options.home = std::filesystem::absolute(argv[++i]);
 		else if (word == "--data" && more)
 			options.data = std::filesystem::absolute(argv[++i]);
+		else if (word == "--sound" && more)
+			options.sound = std::filesystem::absolute(argv[++i]);
 		else if (word == "--realtime")
 			options.realtime = true;
 		else if (options.script.empty() && (word == "-" || word[0] != '-'))
@@ -76,15 +83,24 @@ static int Play(const DriveOptions& options, const std::vector<ScriptCommand>& s
 	if (!options.home.empty())
 		SetSaveFolderRoot(options.home);
 	setenv("SDL_VIDEODRIVER", "dummy", 0);
+	ChooseSoundOutput(options.sound.empty() ? SOUND_OUTPUT_NONE : SOUND_OUTPUT_CAPTURE);
 
 	CVirtualClock clock;
 	if (!options.realtime)
 		g_clock = &clock;
 	CDriver driver(script, options.realtime ? nullptr : &clock, folder);
+	std::unique_ptr<CRecorder> recorder;
+	if (!options.sound.empty())
+		recorder = std::make_unique<CRecorder>(&driver, options.sound);
+	if (recorder && !recorder->IsOpen()) {
+		std::fprintf(stderr, "cannot write %s\n", options.sound.c_str());
+		return EXIT_SCRIPT_ERROR;
+	}
+	CFrameHook* hook     = recorder ? static_cast<CFrameHook*>(recorder.get()) : &driver;
 	std::string modeText = options.mode;
 	char name[]          = "quorblet";
 	char* arguments[]    = {name, modeText.data(), nullptr};
-	RunProgram(ParseMode(options.mode.empty() ? 1 : 2, arguments), options.seed, &driver);
+	RunProgram(ParseMode(options.mode.empty() ? 1 : 2, arguments), options.seed, hook);
 
 	if (const ScriptCommand* pending = driver.Pending(); pending && !driver.exitCode) {
 		std::fprintf(stderr, "line %d: %s: the program ended before\n", pending->line,

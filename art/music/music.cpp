@@ -6,7 +6,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-static const float QUALITY = .4f;
+static const float QUALITY = .35f;
 
 // clang-format off
 const Piece PIECES[11] = {
