@@ -57,7 +57,7 @@ void Alien::Tune()
 	vibes.Line("R | rh rq c5e' e5e' | R | rq f4e' a4e' d5q rq | R | rh rq e5e' c5e' | R |"
 	           "rq c5e' b4e' c5e' a4e' rq",
 	           62);
-	kit.Beat(TIPTOE, 56);
+	kit.Beat(TIPTOE, 76);
 }
 
 void Alien::TuneShadowed()
@@ -74,7 +74,7 @@ void Alien::TuneShadowed()
 	// the pad slips half a step aside while the tune holds its breath
 	pad.Line("R3 | a4h. (bb4) a4q | R3 | a4q. bb4e a4h", 50);
 	pad.Line("R3 | d4h. (eb4) d4q | R3 | e4q. f4e e4h", 46);
-	kit.Beat(TIPTOE, 60, {.bar = 0, .bars = 7});
+	kit.Beat(TIPTOE, 80, {.bar = 0, .bars = 7});
 	kit.Beat("block x...x.x......... | blocklow ..........x.x...", 60, {.bar = 7});
 }
 
@@ -90,7 +90,7 @@ void Alien::Song()
 	pad.Line("f4w | e4w | d4w | e4w | f4w | e4w | d4h e4h | e4w", 48);
 	pad.Line("c4w | c4w | a3w | c4w | c4w | c4w | a3h b3h | c4w", 46);
 	bassoon.Line("R3 | rq a2e' c3e' e3q' rq | R3 | rq e3e' a3e' c4q' rq", 72);
-	kit.Beat("brush x..ox..ox..ox..o | kick x.......x.......", 56);
+	kit.Beat("brush x..ox..ox..ox..o | kick x.......x....... | triangle o...............", 72);
 }
 
 // It has seen us: bassoon over stamping chords, swoops above, a half step too high.
@@ -123,7 +123,7 @@ void Alien::Turn()
 	vibes.Line("R | rq c5e' f5e' a5q' rq | R | rq b4e' e5e' g#5q' rq", 60);
 	pad.Line("e4w | f4w | f4w | e4h. rq", 46);
 	bassoon.Line("R | R | d3q' a2q' d3q' f3q' | e3q' b2q' e2q rq", 72);
-	kit.Beat(TIPTOE, 56, {.bar = 0, .bars = 3});
+	kit.Beat(TIPTOE, 76, {.bar = 0, .bars = 3});
 	kit.Beat("block x.......x......... | castanets ............oooo", 54, {.bar = 3});
 }
 

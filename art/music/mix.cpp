@@ -9,7 +9,7 @@
 static const double LOWEST = 42; // Hz
 static const double BOX = 300, BOX_WIDTH = .7, BOX_DB = -2;
 static const double TOP = 3500, TOP_DB = 5;
-static const double CEILING    = -2;   // dB; coding adds up to 0.8
+static const double CEILING    = -2.5; // dB; coding adds up to one
 static const double LOOK_AHEAD = .004; // seconds
 static const int PASSES        = 2;    // the limiter takes a little of the loudness
 static const double K_OFFSET   = -.691;

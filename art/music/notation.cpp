@@ -86,7 +86,7 @@ public:
 	bool Read(const std::string& word);
 	bool BarIsFull() const { return std::fabs(at - (line.bars + 1) * barLength) < EXACT; }
 
-	Line line;
+	Phrase line;
 	double at = 0;
 
 private:
@@ -155,7 +155,7 @@ bool LineReader::Read(const std::string& word)
 	return length > 0 && !*p;
 }
 
-Line ReadLine(const std::string& text, double barLength)
+Phrase ReadPhrase(const std::string& text, double barLength)
 {
 	LineReader reader(barLength);
 	std::string spaced;

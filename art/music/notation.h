@@ -14,7 +14,7 @@ struct Note {
 	bool grace    = false; // (d5): played just before the note that follows
 };
 
-struct Line {
+struct Phrase {
 	std::vector<Note> notes;
 	int bars = 0;
 	std::string fault; // what is wrong, with the number of the bar; empty when all is well
@@ -37,7 +37,7 @@ struct Harmony {
 // a dot for half as much again, t for a triplet. r is a rest; R a bar's rest, R3 three. After a
 // note ~ ties it to the next, > ' / stand for accent, staccato and scoop. Every | must stand
 // where a bar ends.
-Line ReadLine(const std::string& text, double barLength);
+Phrase ReadPhrase(const std::string& text, double barLength);
 // "C | Am7 F/A | G7": the chords of a bar share it evenly. Kinds: none m 7 m7 M7 6 m6 9 m9 sus dim.
 Harmony ReadHarmony(const std::string& text, double barLength);
 // "f#5" for 78.

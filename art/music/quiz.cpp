@@ -5,10 +5,10 @@ namespace
 {
 struct Quiz {
 	Score& score;
-	Part vibes    = score.Add(VIBRAPHONE, 124, 72, 55);
-	Part clarinet = score.Add(CLARINET, 64, 50, 50);
-	Part pizz     = score.Add(PIZZICATO, 90, 86, 50);
-	Part guitar   = score.Add(NYLON, 98, 40, 35);
+	Part vibes    = score.Add(VIBRAPHONE, 124, 90, 55);
+	Part clarinet = score.Add(CLARINET, 64, 38, 50);
+	Part pizz     = score.Add(PIZZICATO, 90, 102, 50);
+	Part guitar   = score.Add(NYLON, 98, 26, 35);
 	Part bass     = score.Add(BASS, 94, 62, 12);
 	Part kit      = score.Add(BRUSH_KIT, 120, 64, 25);
 

@@ -10,8 +10,6 @@
 #include <sstream>
 
 static const double STEP         = .25; // quarters of a row's character
-static const int NORMAL          = 110; // expression
-static const int EXPRESSION      = 11;
 static const int SWELL_STEPS     = 24;
 static const double MELODY_LOOSE = .006, CHORD_LOOSE = .005, GROUND_LOOSE = .004; // seconds
 static const double GRACE       = .075;                                           // seconds
@@ -66,7 +64,7 @@ void Score::Open(const std::string& title, const std::string& chords, int lift)
 	int opened = (int)sections.size();
 	for (size_t i = 0; i < players.size(); i++)
 		if (players[i].swellSeen == opened - 1 && opened > 0)
-			turns.push_back({end, (int)i, EXPRESSION, NORMAL});
+			turns.push_back({end, (int)i, EXPRESSION, NORMAL_EXPRESSION});
 	sections.push_back({title, end, harmony.bars, harmony.chords, {}});
 	end += harmony.bars * barLength;
 	this->lift = lift;
@@ -122,7 +120,7 @@ bool Score::Check(const Part& part, const std::string& slip)
 	return slip.empty();
 }
 
-void Score::Sing(const Part& part, const ::Line& line, int velocity, const Manner& manner)
+void Score::Sing(const Part& part, const Phrase& line, int velocity, const Manner& manner)
 {
 	const Section& section = sections.back();
 	if (!Check(part, line.fault))
@@ -150,12 +148,12 @@ void Score::Sing(const Part& part, const ::Line& line, int velocity, const Manne
 
 void Part::Line(const std::string& notes, int velocity, Manner manner)
 {
-	score->Sing(*this, ReadLine(notes, score->barLength), velocity, manner);
+	score->Sing(*this, ReadPhrase(notes, score->barLength), velocity, manner);
 }
 
 void Part::Lead(const std::string& notes, int velocity, Manner manner)
 {
-	::Line line = ReadLine(notes, score->barLength);
+	Phrase line = ReadPhrase(notes, score->barLength);
 	score->Sing(*this, line, velocity, manner);
 	for (Note note : line.notes) {
 		note.at += manner.bar * score->barLength;

@@ -14,6 +14,8 @@ struct Played {
 	bool scoop;
 };
 
+const int EXPRESSION = 11, NORMAL_EXPRESSION = 110; // the controller of swells, and its rest
+
 // A controller of the synthesizer set to a value.
 struct Turn {
 	double at; // quarters
@@ -112,7 +114,7 @@ public:
 private:
 	friend class Part;
 	bool Check(const Part& part, const std::string& slip);
-	void Sing(const Part& part, const ::Line& line, int velocity, const Manner& manner);
+	void Sing(const Part& part, const Phrase& line, int velocity, const Manner& manner);
 	void Play(const Part& part, double at, double length, int key, int velocity, double loose,
 	          double delay = 0, bool scoop = false);
 	int Accent(double at) const;

@@ -98,7 +98,11 @@ void Meadow::TuneWithAccordion()
 	score.Open("tune with accordion", THEME_A_CHORDS, 3);
 	TwoBeat(86);
 	banjo.Roll(ROLL, 55, 56);
-	harmonica.Lead(THEME_A, 84);
+	harmonica.Lead("c5e d5e e5e f5e g5q/ e5e c5e | a4e c5e e5q. d5e c5q |"
+	               "f5e g5e f5e e5e c5q a4e c5e | d5h./ g4e a4e |"
+	               "c5e d5e e5e f5e g5q/ e5e g5e | a5q g5e e5q. d5e c5e |"
+	               "d5e e5e f5q g5e f5e d5e b4e | c5h. rq",
+	               84);
 	accordion.Line(THEME_A_DESCANT, 64);
 	fiddle.Line("R3 | rq b4s d5s g5s d5s b4q rq | R3 | rq g5s e5s c5s e5s g4q rq", 64);
 	kit.Beat(TRAIN, 54, {.bar = 0, .bars = 7});

@@ -9,7 +9,7 @@ struct Islands {
 	Part pipes   = score.Add(PAN_FLUTE, 77, 48, 55);
 	Part marimba = score.Add(MARIMBA, 92, 40, 40);
 	Part guitar  = score.Add(NYLON, 90, 90, 35);
-	Part bass    = score.Add(FINGER_BASS, 90, 62, 12);
+	Part bass    = score.Add(FINGER_BASS, 98, 62, 12);
 	Part strings = score.Add(SLOW_STRINGS, 62, 64, 70, 10);
 	Part kit     = score.Add(KIT, 88, 64, 35);
 
@@ -33,9 +33,9 @@ static const char* const CALYPSO =
     "c5e. e5e. g5e e5q g5e a5e | a5e. g5e. e5e c5q d5e c5e | d5e. e5e. f5e g5q d5e b4e |"
     "c5h re g4e a4e b4e";
 static const char* const HANDS = "kick x.....x.x.....x. | rim ...x..x....x..x. |"
-                                 "shaker x.xox.xox.xox.xo |"
+                                 "shaker x.oox.oox.oox.oo |"
                                  "conga ......x.......xx | congalow x.......x...x...";
-static const char* const SOFT  = "shaker x.xox.xox.xox.xo | rim ......x.......x. |"
+static const char* const SOFT  = "cabasa o.o.o.o.o.o.o.o. | rim ......x.......x. |"
                                  "congalow x...........o...";
 static const char* const ROLLS = "kick x.......x....... | shaker x.xox.xo........ |"
                                  "conga ..xx..xx..x.x.x. |"
@@ -53,7 +53,7 @@ void Islands::Intro()
 	marimba.Roll("1..5..8.0..8..5.", 48, 72);
 	bass.Ground("1--.5---", 78, .9, {.bar = 2});
 	guitar.Strike("..x..x..x..x..x.", 52, 54, .4, .01, {.bar = 1});
-	kit.Beat("shaker x.xox.xox.xox.xo", 52);
+	kit.Beat("shaker x.oox.oox.oox.oo", 52);
 	kit.Beat(HANDS, 54, {.bar = 2, .bars = 1});
 	kit.Beat(ROLLS, 54, {.bar = 3});
 	pipes.Line("R | rh rq a5e c6e | g5h. rq | R", 66);

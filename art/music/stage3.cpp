@@ -21,7 +21,7 @@ struct Snow {
 	void WideView();
 	void HornSong();
 	void FluteSong(int lift);
-	void Home(int lift);
+	void Home(const char* tune, int lift);
 	void Frozen();
 	void LastHome();
 	void Coda();
@@ -32,17 +32,22 @@ struct Snow {
 static const char* const LILT_A =
     "c5q e5e g5q e5e | a4q c5e e5q. | f5q e5e c5q a4e | d5q. rq g4e |"
     "c5q e5e g5q a5e | a5q g5e e5q c5e | d5q f5e g5q b4e | c5q. rq g4e";
+// A again, with the gaps filled in as on skates.
+static const char* const SKATING =
+    "c5e d5e e5e g5e f5e e5e | a4e b4e c5e e5q. | f5e g5e f5e c5q a4e | d5q. rq g4e |"
+    "c5e d5e e5e g5q a5e | a5e b5e a5e e5q c5e | d5e e5e f5e g5q b4e | c5q. rq g4e";
 static const char* const MINOR  = "Am7 | Am | F | Dm | Am7 | Am | Dm Em | Am";
 static const char* const MAJOR  = "C | Am | F | G | C | Am | Dm7 G7 | C";
 static const char* const LILT_B = "a5q. f5q a5e | g5q e5e c5q e5e | f5q. d5q f5e | e5q. a4q b4e |"
-                                  "c5q a4e c5e f5q | e5q c5e e5q g5e | f5q a5e g5q b4e | c5q. rq.";
+                                  "c5q a4e c5e f5q | e5q c5e e5q g5e | f5q a5e g5q b4e |"
+                                  "c5q. rq.";
 static const char* const LILT_B_CHORDS = "F | C/E | Dm | Am | F | C/E | Dm7 G7 | C";
 static const char* const LILT_COUNTER =
     "e4q. c4q. | a4q. c5q. | a4q. f4q. | f4q a4e d4q. | e4q. g4q. | a4q. e4q. | f4q. g4q. |"
     "e4q. a4q.";
 static const char* const HOOVES =
-    "kick x........... | snare ......x..... | sleigh x.o.o.x.o.o. | hat x...o.x...o.";
-static const char* const HALT = "kick x.....x..... | snare ......x.x.xx | sleigh x.o.o.x.o.o.";
+    "kick x........... | snare ......x..... | sleigh o...o.o...o. | hat x...o.x...o.";
+static const char* const HALT = "kick x.....x..... | snare ......x.x.xx | sleigh o...o.o...o.";
 
 void Snow::Trot(int velocity)
 {
@@ -55,7 +60,7 @@ void Snow::Intro()
 	score.Open("intro", "Am | F | Am | Em");
 	celesta.Roll("1.5.8.0.9.8.", 60, 64);
 	bass.Ground("1-----------", 72);
-	kit.Beat("sleigh x.o.o.x.o.o.", 50);
+	kit.Beat("sleigh o...o.o...o.", 50);
 	pizz.Strike("......x...x.", 55, 58, .4, .006, {.bar = 2});
 	horn.Line("R | rq. c4q a3e | e4h. | rq. rq g4e", 60);
 	kit.Beat("snare ......o.o.xx", 50, {.bar = 3});
@@ -67,7 +72,7 @@ void Snow::SetOut(int lift)
 	Trot(82);
 	clarinet.Lead(LILT_A, 82);
 	celesta.Line("R3 | rq. f5e a5e d6e | R3 | rq. e5e a5e c6e", 54);
-	kit.Beat("kick x........... | sleigh x.o.o.x.o.o. | rim ......x.....", 56,
+	kit.Beat("kick x........... | sleigh o...o.o...o. | rim ......x.....", 56,
 	         {.bar = 0, .bars = 7});
 	kit.Beat(HALT, 52, {.bar = 7});
 }
@@ -95,7 +100,7 @@ void Snow::Gather()
 	flute.Line("R | rq. e5q a5e | a5q. f5q. | rq. a5e d6e a5e | R | rq. c6q a5e | f5q. g5q. |"
 	           "e5q a5e c6q.",
 	           62);
-	kit.Beat("sleigh x.o.o.x.o.o. | kick x.....o.....", 54, {.bar = 0, .bars = 7});
+	kit.Beat("sleigh o...o.o...o. | kick x.....o.....", 54, {.bar = 0, .bars = 7});
 	kit.Beat(HALT, 56, {.bar = 7});
 }
 
@@ -123,8 +128,9 @@ void Snow::FluteSong(int lift)
 	clarinet.Line("c5q. a4q. | g4q. e4q. | a4q. f4q. | c5q. rq. | a4q. f4q. | g4q. rq. |"
 	              "a4q. d5q. | g4q. rq.",
 	              56);
-	kit.Beat(HOOVES, 58, {.bar = 0, .bars = 7});
-	kit.Beat("sleigh x.o.o.x.o.o. | triangle x.....o.....", 52, {.bar = 7});
+	kit.Beat("kick x........... | snare ......x...o. | hat x...o.x...o.", 58,
+	         {.bar = 0, .bars = 7});
+	kit.Beat("sleigh o...o.o...o. | triangle x.....o.....", 52, {.bar = 7});
 }
 
 void Snow::HornSong()
@@ -138,14 +144,14 @@ void Snow::HornSong()
 	flute.Line("R | rq. g5e c6e e6e | R | rq. e5e a5e c6e | R | rq. g5e c6e g5e | R |"
 	           "rq. e5e g5e c6e",
 	           62);
-	kit.Beat("kick x........... | snare ......o...o. | sleigh x.o.o.x.o.o.", 58);
+	kit.Beat("kick x........... | snare ......o...o. | triangle o...........", 58);
 }
 
-void Snow::Home(int lift)
+void Snow::Home(const char* tune, int lift)
 {
 	score.Open("home", MAJOR, lift);
 	Trot(82);
-	flute.Lead(LILT_A, 84);
+	flute.Lead(tune, 84);
 	clarinet.Line("e4q. g4q. | c5q. a4q. | a4q. f4q. | g4q b4e d5q. | e4q. g4q. | c5q. a4q. |"
 	              "f4q. g4q. | e4q g4e c5q.",
 	              66);
@@ -167,7 +173,7 @@ void Snow::Frozen()
 	strings.Swell(4, 8, 84, 122);
 	clarinet.Line("R3 | rq. a4q f4e | R3 | rq. e4q a4e", 60);
 	kit.Beat("triangle x...........", 46);
-	kit.Beat("sleigh x.o.o.x.o.o.", 44, {.bar = 4});
+	kit.Beat("sleigh o...o.o...o.", 44, {.bar = 4});
 	kit.Beat(HALT, 54, {.bar = 7});
 }
 
@@ -201,7 +207,7 @@ void Snow::Coda()
 	horn.Line("c4q. f4q. | d4q. g4q. | e4q g4e c5q. | c5h.", 66);
 	strings.Strike("X-----------", 55, 58, 1);
 	kit.Beat(HOOVES, 58, {.bar = 0, .bars = 2});
-	kit.Beat("sleigh x.o.o.x.o.o.", 50, {.bar = 2, .bars = 1});
+	kit.Beat("sleigh o...o.o...o.", 50, {.bar = 2, .bars = 1});
 	kit.Beat("sleigh X........... | triangle x...........", 50, {.bar = 3});
 }
 
@@ -216,12 +222,12 @@ void ComposeStage3(Score& score)
 	snow.SetOut(0);
 	snow.Glitter(1);
 	snow.FluteSong(2);
-	snow.Home(2);
+	snow.Home(LILT_A, 2);
 
 	snow.Gather();
 	snow.WideView();
 	snow.HornSong();
-	snow.Home(4);
+	snow.Home(SKATING, 4);
 
 	snow.Frozen();
 	snow.Glitter(3);

@@ -10,7 +10,7 @@ struct Savanna {
 	Part flute   = score.Add(FLUTE, 80, 72, 60);
 	Part choir   = score.Add(CHOIR, 84, 56, 65);
 	Part low     = score.Add(CHOIR, 74, 70, 65);
-	Part bass    = score.Add(FINGER_BASS, 92, 62, 12);
+	Part bass    = score.Add(FINGER_BASS, 100, 62, 12);
 	Part kit     = score.Add(KIT, 104, 64, 30);
 
 	void Intro();
@@ -47,10 +47,10 @@ static const char* const RIPPLE = "c4et g4et c5et e5et g4et c5et g5et e5et c5et 
                                   "d4et a4et d5et f5et a4et d5et g4et d5et b4et g4et f4et d4et |"
                                   "c4et g4et c5et e5et g4et c5et e5et c5et g4et e4et g4et c4et";
 static const char* const DUST   = "conga x..x..x...x.x... | congalow x.......x....... |"
-                                  "shaker x.oxx.oxx.oxx.ox";
+                                  "shaker o.oxo.oxo.oxo.ox";
 static const char* const DANCE  = "kick x...x...x...x... | conga x..x..x...x.x... |"
                                   "congalow x..o..x.o...x.oo |"
-                                  "shaker x.oxx.oxx.oxx.ox | clap ....x.......x...";
+                                  "shaker x.oox.oox.oox.oo | clap ....x.......x...";
 static const char* const BREAK  = "kick x.......x....... | conga x..x..x.xxx.x.x. |"
                                   "congalow ..x..x.x...x.x.x |"
                                   "clap x..x..x...x.x...";
@@ -76,7 +76,7 @@ void Savanna::Intro()
 	             74);
 	bass.Ground("1--1..5-....5-3-", 78, .9, {.bar = 2});
 	flute.Line("R | rh rq a5e c6e | g5h. rq | rh. g4e a4e", 74);
-	kit.Beat("shaker x.oxx.oxx.oxx.ox", 48);
+	kit.Beat("shaker x.oox.oox.oox.oo", 48);
 	kit.Beat("conga x..x..x...x.x...", 50, {.bar = 2, .bars = 1});
 	kit.Beat(BREAK, 50, {.bar = 3});
 }
@@ -157,7 +157,7 @@ void Savanna::Drums()
 	kit.Beat("tomhigh x.xx............ | tommid ....x.xx........ | tomlow ........x.xxx.x. |"
 	         "clap x..x..x...x.x... | cowbell x...x...x...x...",
 	         66, {.bar = 3});
-	kit.Beat("shaker x.oxx.oxx.oxx.ox", 54);
+	kit.Beat("shaker x.oox.oox.oox.oo", 54);
 	choir.Line("R | rh re g4e' re c5e' | R | rh g4e' g4e' c5q'", 74);
 	low.Line("R | rh re e4e' re g4e' | R | rh e4e' e4e' g4q'", 66);
 	bass.Line("c3e. c3e. g2e rh | R | c3e. c3e. g2e rh | R", 62);
@@ -176,7 +176,7 @@ void Savanna::Bridge()
 	             "rh e5et g5et e5et b4q | R | rq g4et b4et d5et g5q rq",
 	             66);
 	choir.Line("R3 | R3 | a4q d5q f5q d5q | d5h. rq", 70);
-	kit.Beat("shaker x.oxx.oxx.oxx.ox | congalow o.......o.......", 50, {.bar = 0, .bars = 6});
+	kit.Beat("shaker x.oox.oox.oox.oo | congalow o.......o.......", 50, {.bar = 0, .bars = 6});
 	kit.Beat(DUST, 54, {.bar = 6, .bars = 1});
 	kit.Beat(BREAK, 60, {.bar = 7});
 }
@@ -239,7 +239,7 @@ void Savanna::Coda()
 	marimba.Strike("..x..x..x.x..x..", 55, 54, .4, 0, {.bar = 0, .bars = 2});
 	kalimba.Line("R3 | c4et g4et c5et e5et g5et c6et rh", 72);
 	kit.Beat(DANCE, 56, {.bar = 0, .bars = 2});
-	kit.Beat("conga x..x..x...x.x... | shaker x.oxx.oxx.oxx.ox", 54, {.bar = 2, .bars = 1});
+	kit.Beat("conga x..x..x...x.x... | shaker x.oox.oox.oox.oo", 54, {.bar = 2, .bars = 1});
 	kit.Beat("congalow x..x..x......... | clap ......X......... |"
 	         "crash o...............",
 	         56, {.bar = 3});

@@ -151,7 +151,7 @@ void Title::Turn()
 	horn.Line("f4h c4h | g4h d4h | g4h e4h | g4h. rq", 56);
 	glock.Line("R | R | rq e6e g6e c6q e6q | d6q b5q g5h", 46);
 	kit.Beat(LIGHT, 60);
-	kit.Beat("sleigh x...x...x...x...", 34, {.bar = 2});
+	kit.Beat("block ........x.x..... | blocklow ............x...", 58, {.bar = 3});
 }
 
 void ComposeTitle(Score& score)

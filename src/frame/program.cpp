@@ -95,6 +95,15 @@ static void StartSdl()
 	SetIcon();
 }
 
+// Aids for whoever works on the game: QUORBLET_DEBUG=points,rects in the environment.
+static void ReadDebugAids()
+{
+	const char* wanted            = getenv("QUORBLET_DEBUG");
+	const std::string aids        = wanted ? wanted : "";
+	g_render->showCollisionPoints = aids.find("points") != std::string::npos;
+	g_render->showDirtyRects      = aids.find("rects") != std::string::npos;
+}
+
 static void StartServices(Services& services, const ProgramMode& mode)
 {
 	if (!mode.soundOff)
@@ -116,6 +125,7 @@ static void StartServices(Services& services, const ProgramMode& mode)
 	g_display       = services.display.get();
 	services.render = std::make_unique<CRenderManager>();
 	g_render        = services.render.get();
+	ReadDebugAids();
 	services.cursor = std::make_unique<CCursor>();
 	g_cursor        = services.cursor.get();
 	g_display->LoadPersistentImages();

@@ -241,16 +241,19 @@ void CControllerGame::StepGreeting()
 	}
 }
 
-// A press lets the ball go, or its release fires the ray.
+// A press lets the ball go, or its release fires the ray. A tap that fits between two frames counts
+// as held for one.
 void CControllerGame::StepButtons()
 {
-	if (paddle && ball && !leftHeld && leftHeldLastFrame && !pressFoundBallHeld && !ball->IsHeld())
+	bool held  = leftHeld || leftTapped;
+	leftTapped = false;
+	if (paddle && ball && !held && leftHeldLastFrame && !pressFoundBallHeld && !ball->IsHeld())
 		paddle->FireDestructo();
-	leftHeldLastFrame = leftHeld;
+	leftHeldLastFrame = held;
 	if (ball && ball->IsHeld())
 		pressFoundBallHeld = true;
 
-	if (!leftHeld) {
+	if (!held) {
 		pressFoundBallHeld = false;
 	} else if (paddle) {
 		ball->SetHeld(false);
@@ -345,6 +348,7 @@ void CControllerGame::OnMouseButton(bool, bool right, bool released)
 		return;
 	if (!right) {
 		leftHeld = !released;
+		leftTapped |= leftHeld;
 		return;
 	}
 	rightHeld = !released;

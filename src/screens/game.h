@@ -122,6 +122,7 @@ private:
 
 	// input as the game sees it
 	bool leftHeld = false, rightHeld = false, leftHeldLastFrame = false;
+	bool leftTapped         = false; // pressed since the last frame, perhaps let go already
 	bool pressFoundBallHeld = false; // this press has let the ball go: it fires no ray
 	bool leftKeyHeld = false, rightKeyHeld = false;
 	int warpsLeft     = 2; // next motions that are pulled to the paddle

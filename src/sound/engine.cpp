@@ -4,6 +4,7 @@
 #include "sound/sound_output.h"
 
 #include <AL/alext.h>
+#include <AL/efx.h>
 #include <algorithm>
 #include <cstdlib>
 
@@ -78,8 +79,8 @@ FMOD_RESULT CSoundEngine::Init(int channelCount)
 bool CSoundEngine::MakeContext(int channelCount)
 {
 	std::vector<ALCint> attributes = output->ContextAttributes();
-	for (ALCint value :
-	     {ALC_MONO_SOURCES, 0, ALC_STEREO_SOURCES, channelCount, ALC_HRTF_SOFT, ALC_FALSE, 0})
+	for (ALCint value : {ALC_MONO_SOURCES, 0, ALC_STEREO_SOURCES, channelCount, ALC_HRTF_SOFT,
+	                     ALC_FALSE, ALC_MAX_AUXILIARY_SENDS, 0, 0})
 		attributes.push_back(value);
 	context = alcCreateContext(device, attributes.data());
 	if (!context || !alcMakeContextCurrent(context))

@@ -99,12 +99,12 @@ FMOD_RESULT CSoundEngine::CreateFromFile(const char* path, FMOD_SOUND* handle)
 	if (!ReadWholeFile(path, encoded))
 		return FMOD_ERR_FILE_NOTFOUND;
 	auto stream = std::make_unique<CSoundStream>(std::move(encoded));
-	if (!stream->decoder.IsOpen())
+	if (stream->rate == 0)
 		return FMOD_ERR_FORMAT;
 	EngineSound* sound = NewSound(handle);
 	if (!sound)
 		return FMOD_ERR_MEMORY;
-	sound->rate   = stream->decoder.Rate();
+	sound->rate   = stream->rate;
 	sound->stream = std::move(stream);
 	return FMOD_OK;
 }

@@ -13,7 +13,7 @@ static const size_t MAX_FRAMES     = 4u << 20; // of one effect; a minute and a 
 static const float FULL_SCALE      = 32768;
 static const long LARGEST_POSITIVE = 32767;
 
-CSoundDecoder::CSoundDecoder(std::vector<unsigned char>&& encoded) : bytes(std::move(encoded))
+CSoundDecoder::CSoundDecoder(const std::vector<unsigned char>& encoded) : bytes(encoded)
 {
 	SF_VIRTUAL_IO memory = {Length, Seek, Pull, Push, Tell};
 	file                 = sf_open_virtual(&memory, SFM_READ, &info, this);
@@ -101,10 +101,10 @@ sf_count_t CSoundDecoder::Tell(void* decoder)
 }
 
 // The length that a file states is not asked for: of a file cut off it can be absurd.
-DecodedSound DecodeWholeSound(std::vector<unsigned char>&& encoded)
+DecodedSound DecodeWholeSound(const std::vector<unsigned char>& encoded)
 {
 	DecodedSound sound;
-	CSoundDecoder decoder(std::move(encoded));
+	CSoundDecoder decoder(encoded);
 	if (!decoder.IsOpen()) {
 		sound.result = FMOD_ERR_FORMAT;
 		return sound;

@@ -8,11 +8,11 @@
 #include <vector>
 
 // Reads any format of libsndfile as stereo of 16 bits: one channel goes to both sides, of more than
-// two the first two count. It owns the encoded bytes.
+// two the first two count. The encoded bytes must outlive it.
 class CSoundDecoder
 {
 public:
-	explicit CSoundDecoder(std::vector<unsigned char>&& encoded);
+	explicit CSoundDecoder(const std::vector<unsigned char>& encoded);
 	~CSoundDecoder();
 	CSoundDecoder(const CSoundDecoder&)            = delete;
 	CSoundDecoder& operator=(const CSoundDecoder&) = delete;
@@ -30,8 +30,8 @@ private:
 	static sf_count_t Push(const void*, sf_count_t, void*) { return 0; }
 	static sf_count_t Tell(void* decoder);
 
-	std::vector<unsigned char> bytes;
-	sf_count_t position = 0; // in bytes
+	const std::vector<unsigned char>& bytes; // not owned
+	sf_count_t position = 0;                 // in bytes
 	SF_INFO info        = {};
 	SNDFILE* file       = nullptr;
 	std::vector<float> scratch;
@@ -44,4 +44,4 @@ struct DecodedSound {
 	std::vector<int16_t> samples; // left and right in turn
 };
 
-DecodedSound DecodeWholeSound(std::vector<unsigned char>&& encoded);
+DecodedSound DecodeWholeSound(const std::vector<unsigned char>& encoded);

@@ -8,8 +8,11 @@ static const std::chrono::milliseconds LOOK_EVERY(100); // far less than the blo
 static const int BYTES_PER_FRAME = 4;
 
 CSoundStream::CSoundStream(std::vector<unsigned char>&& encoded)
-    : decoder(std::move(encoded)), block(2 * BLOCK_FRAMES)
+    : rate(0), bytes(std::move(encoded)), block(2 * BLOCK_FRAMES)
 {
+	const CSoundDecoder probe(bytes);
+	if (probe.IsOpen())
+		rate = probe.Rate();
 	alGenBuffers(BLOCKS, buffers);
 }
 
@@ -28,7 +31,7 @@ void CSoundStream::Start(ALuint newSource, bool newLooping)
 	alSourceRewind(source); // a source that was stopped takes every new block for heard
 	idle.assign(buffers, buffers + BLOCKS);
 	sinceTurn = 0;
-	atEnd     = !decoder.Rewind();
+	atEnd     = false;
 }
 
 void CSoundStream::SetPaused(bool newPaused)
@@ -45,6 +48,7 @@ void CSoundStream::Stop()
 	alSourceStop(source);
 	alSourcei(source, AL_BUFFER, 0); // takes all blocks out of the queue
 	source = 0;
+	decoder.reset();
 }
 
 void CSoundStream::TakeBackHeard()
@@ -62,13 +66,15 @@ void CSoundStream::TakeBackHeard()
 // without a single frame would turn for ever.
 int CSoundStream::FillBlock()
 {
+	if (!decoder)
+		decoder = std::make_unique<CSoundDecoder>(bytes);
 	int filled = 0;
 	while (!atEnd && filled < BLOCK_FRAMES) {
-		const int got = decoder.Read(&block[2 * filled], BLOCK_FRAMES - filled);
+		const int got = decoder->Read(&block[2 * filled], BLOCK_FRAMES - filled);
 		filled += got;
 		sinceTurn += got;
 		if (filled < BLOCK_FRAMES) {
-			atEnd     = !looping || sinceTurn == 0 || !decoder.Rewind();
+			atEnd     = !looping || sinceTurn == 0 || !decoder->Rewind();
 			sinceTurn = 0;
 		}
 	}
@@ -84,8 +90,7 @@ bool CSoundStream::Feed()
 	if (frames > 0) {
 		const ALuint buffer = idle.back();
 		idle.pop_back();
-		alBufferData(buffer, AL_FORMAT_STEREO16, block.data(), frames * BYTES_PER_FRAME,
-		             decoder.Rate());
+		alBufferData(buffer, AL_FORMAT_STEREO16, block.data(), frames * BYTES_PER_FRAME, rate);
 		alSourceQueueBuffers(source, 1, &buffer);
 	}
 	ALint state = AL_PLAYING;

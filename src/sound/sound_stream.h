@@ -28,13 +28,15 @@ public:
 	bool Feed();
 	bool IsPlaying() const;
 
-	CSoundDecoder decoder;
+	int rate; // Hz; 0: no sound, or none that can be played
 
 private:
 	void TakeBackHeard();
 	int FillBlock();
 
-	ALuint source          = 0; // not owned, 0 when idle
+	const std::vector<unsigned char> bytes;
+	std::unique_ptr<CSoundDecoder> decoder; // only while it plays: it takes far more than its state
+	ALuint source          = 0;             // not owned, 0 when idle
 	ALuint buffers[BLOCKS] = {};
 	std::vector<ALuint> idle; // buffers that are not in the queue
 	bool paused   = true;     // the source is left alone

@@ -46,6 +46,24 @@ TEST_F(DisplayTest, PrivateCopiesAreAlwaysNewAndLeaveTheOriginal)
 	EXPECT_EQ(before, display->DecodedImages());
 }
 
+// A picture is decoded when it is first drawn; until then its header tells the size.
+TEST_F(DisplayTest, APictureTornBehindItsHeaderIsFatalWhenItIsDrawn)
+{
+	Bytes torn = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1a, '\n', 0, 0, 0, 13, 'I', 'H', 'D', 'R',
+	              0,    0,   0,   30,  0,    0,    0,    20,   8, 6, 0, 0,  0,   1,   2,   3};
+	torn.resize(60, 9);
+	CTinyData damaged({{"torn.png", torn}});
+	display->Preload();
+	const int before = display->DecodedImages();
+	const int image  = display->LoadImage("torn.png");
+	EXPECT_EQ(30, display->ImageWidth(image));
+	EXPECT_EQ(20, display->ImageHeight(image));
+	EXPECT_EQ(before, display->DecodedImages());
+	EXPECT_EXIT(display->BlitImage(image, 0, 0), testing::ExitedWithCode(1), "");
+	display->ReleaseImage(image);
+	EXPECT_NE(-1, display->LoadImage("torn.png")) << "its slot can be taken again";
+}
+
 TEST_F(DisplayTest, UnknownAndUndecodableImagesAreFatal)
 {
 	EXPECT_EXIT(display->LoadImage("nothing.png"), testing::ExitedWithCode(1), "");

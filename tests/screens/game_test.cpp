@@ -123,6 +123,15 @@ TEST_F(GameTest, ButtonsWorkOnlyOncePlayIsOpen)
 	EXPECT_GE(game->elapsed, 0);
 }
 
+TEST_F(GameTest, ATapBetweenTwoFramesLaunches)
+{
+	UntilPlay();
+	game->OnMouseButton(true, false, false);
+	game->OnMouseButton(true, false, true);
+	Frames(1);
+	EXPECT_FALSE(game->ball->IsHeld());
+}
+
 TEST_F(GameTest, TheLaunchingPressFiresNoRay)
 {
 	UntilPlay();

@@ -4,6 +4,8 @@
 #include "sound/sound_fixture.h"
 #include "sound/sound_output.h"
 
+#include <cmath>
+#include <cstring>
 #include <sndfile.h>
 
 class Engine : public SoundTest

@@ -4,6 +4,9 @@
 #include "frame/random.h"
 #include "sound/sound_fixture.h"
 
+#include <cmath>
+#include <cstring>
+
 static const int FORMATS[] = {SF_FORMAT_OGG | SF_FORMAT_VORBIS, SF_FORMAT_FLAC | SF_FORMAT_PCM_16,
                               SF_FORMAT_WAV | SF_FORMAT_PCM_16, SF_FORMAT_WAV | SF_FORMAT_FLOAT};
 
@@ -21,13 +24,13 @@ TEST(SoundDecoder, CutOffFileGivesWhatIsThere)
 	SeedRandom(3);
 	for (int format : FORMATS) {
 		const Bytes whole         = Encoded(format, Noise(20000));
-		const DecodedSound intact = DecodeWholeSound(Bytes(whole));
+		const DecodedSound intact = DecodeWholeSound(whole);
 		ASSERT_EQ(FMOD_OK, intact.result);
 		EXPECT_EQ(TEST_RATE, intact.rate);
 		EXPECT_EQ(40000u, intact.samples.size());
 		for (size_t part = 0; part < 8; part++) {
 			const Bytes cut(whole.begin(), whole.begin() + whole.size() * part / 8);
-			const DecodedSound sound = DecodeWholeSound(Bytes(cut));
+			const DecodedSound sound = DecodeWholeSound(cut);
 			EXPECT_LT(sound.samples.size(), 40000u);
 			EXPECT_EQ(sound.samples.empty(), sound.result != FMOD_OK);
 		}
@@ -49,7 +52,7 @@ TEST(SoundDecoder, RandomDamageIsNeverTrusted)
 				const size_t place = Rand() % range;
 				damaged[place]     = static_cast<unsigned char>(Rand());
 			}
-			const DecodedSound sound = DecodeWholeSound(std::move(damaged));
+			const DecodedSound sound = DecodeWholeSound(damaged);
 			EXPECT_LE(sound.samples.size(), limit);
 			EXPECT_FALSE(sound.result == FMOD_OK && (sound.samples.empty() || sound.rate < 1000));
 		}
@@ -64,7 +67,7 @@ TEST(SoundDecoder, TooLoudIsCutAndNoNumberIsSilence)
 	unsigned char bytes[sizeof values];
 	std::memcpy(bytes, values, sizeof values);
 	std::copy(std::begin(bytes), std::end(bytes), file.end() - sizeof values);
-	const DecodedSound sound = DecodeWholeSound(std::move(file));
+	const DecodedSound sound = DecodeWholeSound(file);
 	const Samples expected   = {32767, 32767, -32768, -32768, 0, 0, 32767, 32767, 32767, 32767};
 	EXPECT_EQ(expected, sound.samples);
 }

@@ -5,6 +5,8 @@
 #include "sound/sound_output.h"
 #include "state/save_folder.h"
 
+#include <cmath>
+#include <cstring>
 #include <algorithm>
 #include <sndfile.h>
 

@@ -8,7 +8,7 @@
 
 #include <unistd.h>
 
-static const char* const SYSTEM_QUESTION =
+static const std::string SYSTEM_QUESTION =
     "\nQUORBLET - SOUND INITIALIZATION\n"
     "\n"
     "****** PLEASE SELECT DESIRED SOUND SYSTEM ****** \n"
@@ -16,12 +16,12 @@ static const char* const SYSTEM_QUESTION =
     "2 - ALSA\n"
     "3 - JACK\n"
     "\nInput the number corresponding to the desired sound system and press ENTER: ";
-static const char* const DRIVER_QUESTION =
+static const std::string DRIVER_QUESTION =
     "\n\n****** PLEASE SELECT DESIRED SOUND DRIVER ****** "
     "1 : Loudspeaker\n"
     "2 : Headphones\n"
     "\nInput the number corresponding to the desired sound driver and press ENTER: ";
-static const char* const LOADED_LINE =
+static const std::string LOADED_LINE =
     "\nSound settings loaded from file.  To alter settings in the future, run the game with a "
     "command line parameter of 4\n";
 
@@ -62,7 +62,7 @@ protected:
 
 TEST_F(SoundSettings, DialogueIsExactAndStored)
 {
-	EXPECT_EQ(std::string(SYSTEM_QUESTION) + DRIVER_QUESTION, Ask("x\n94\n2 no 3 0 2\n"));
+	EXPECT_EQ(SYSTEM_QUESTION + DRIVER_QUESTION, Ask("x\n94\n2 no 3 0 2\n"));
 	EXPECT_EQ(Bytes({7, 0, 0, 0, 1, 0, 0, 0}), Stored());
 	Ask("1\n1\n");
 	EXPECT_EQ(Bytes({6, 0, 0, 0, 0, 0, 0, 0}), Stored());
@@ -74,7 +74,7 @@ TEST_F(SoundSettings, EndOfInputEndsTheDialogueAndStoresNothing)
 {
 	EXPECT_EQ(SYSTEM_QUESTION, Ask(""));
 	EXPECT_EQ(SYSTEM_QUESTION, Ask("0\n4\nnone"));
-	EXPECT_EQ(std::string(SYSTEM_QUESTION) + DRIVER_QUESTION, Ask("1\n7\n"));
+	EXPECT_EQ(SYSTEM_QUESTION + DRIVER_QUESTION, Ask("1\n7\n"));
 	EXPECT_TRUE(Stored().empty());
 }
 
@@ -138,8 +138,7 @@ TEST_F(SoundSettings, NoDriverLeavesTheGameSilent)
 	SetCaptureDrivers({});
 	SetCapturePlugged(false);
 	const std::string printed = StartWith({6, 0, 0, 0, 3, 0, 0, 0});
-	EXPECT_EQ(std::string(LOADED_LINE) +
-	              "ERROR!  Sound library error: Error initializing output device.\n",
+	EXPECT_EQ(LOADED_LINE + "ERROR!  Sound library error: Error initializing output device.\n",
 	          printed);
 	EXPECT_FALSE(soundEnabled);
 }
