@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <fluidsynth.h>
 #include <map>
+#include <mutex>
 
 const char* const SOUND_FONT = "/usr/share/sounds/sf2/FluidR3_GM.sf2";
 
@@ -46,8 +47,13 @@ struct Synth {
 };
 } // namespace
 
+// The first synthesizer of a process fills in tables that a second one, made meanwhile on another
+// thread, would find half empty.
+static std::mutex s_making;
+
 Synth::Synth()
 {
+	std::lock_guard<std::mutex> alone(s_making);
 	fluid_set_log_function(FLUID_WARN, nullptr, nullptr); // it complains of unused drivers
 	settings                                       = new_fluid_settings();
 	const std::pair<const char*, double> NUMBERS[] = {

@@ -88,7 +88,7 @@ void Desert::TuneInDust()
 	Caravan(84);
 	clarinet.Lead(DORIAN_A, 84);
 	dulcimer.Roll("1.5.8.5.8.5.0.8.", 48, 56);
-	oboe.Line(UNDER, 58, {.octave = 0});
+	oboe.Line(UNDER, 58);
 	kit.Beat(DEEP, 54, {.bar = 0, .bars = 7});
 	kit.Beat(CALL, 60, {.bar = 7});
 }

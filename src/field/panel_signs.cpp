@@ -9,15 +9,17 @@
 #include <algorithm>
 #include <string>
 
-static const int DEPTH          = 24500;
-static const int MIDDLE_X       = 346; // of the field
-static const int TROPHY_Y       = 120;
-static const int EXTRA_LIFE_Y   = 195;
-static const int LOST_BALL_Y    = 300;
-static const int LINE_DISTANCE  = 20; // pixels from the sign's middle to each of its lines
-static const int ROW_GAP        = 6;  // pixels between the lower line and the number
-static const int GLEAMS         = 4;  // times that a gleam runs over the trophy
-static const int GLEAM_FRAMES   = 8;  // for each of its pictures
+static const int DEPTH         = 24500;
+static const int MIDDLE_X      = 346; // of the field
+static const int TROPHY_Y      = 120;
+static const int EXTRA_LIFE_Y  = 195;
+static const int LOST_BALL_Y   = 300;
+static const int LINE_DISTANCE = 20; // pixels from the sign's middle to each of its lines
+// The pictures have soft edges of some 17 pixels, which may lie over each other.
+static const int ROW_GAP        = -24; // pixels
+static const int DIGIT_GAP      = -22; // pixels
+static const int GLEAMS         = 4;   // times that a gleam runs over the trophy
+static const int GLEAM_FRAMES   = 8;   // for each of its pictures
 static const int GLEAM_PICTURES = 3;
 static const float SIGN_CURVE   = 3.0f;
 static const int SIGN_SWING     = 5;
@@ -156,7 +158,7 @@ void CLostBallSign::ShowRow(int y)
 	}
 	int width = lowerLine->Width() + ROW_GAP;
 	for (int i = 0; i < places; i++)
-		width += number[i]->Width();
+		width += number[i]->Width() + (i > 0 ? DIGIT_GAP : 0);
 
 	int x = MIDDLE_X - width / 2;
 	lowerLine->SetPos(x, y - lowerLine->Height() / 2);
@@ -165,6 +167,6 @@ void CLostBallSign::ShowRow(int y)
 	for (int i = 0; i < places; i++) {
 		number[i]->SetPos(x, y - number[i]->Height() / 2);
 		number[i]->Show();
-		x += number[i]->Width();
+		x += number[i]->Width() + DIGIT_GAP;
 	}
 }

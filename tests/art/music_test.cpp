@@ -9,6 +9,7 @@
 #include <cmath>
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <thread>
 
 static const double HELD = .3; // seconds from which a semitone hurts
 
@@ -341,5 +342,25 @@ TEST(MusicHeard, TailsRunOnOverTheSeam)
 		EXPECT_GT(start, -50);
 		EXPECT_FALSE(ClicksAtSeam(sound.left));
 		EXPECT_FALSE(ClicksAtSeam(sound.right));
+	}
+}
+
+// The forge draws its groups on several threads.
+TEST(MusicHeard, TwoBandsAtOnceDontDisturbEachOther)
+{
+	Score score("small");
+	Part harp = score.Add(HARP, 100, 64, 60), kit = score.Add(KIT, 100, 64);
+	score.Open("only", "C | F");
+	harp.Roll("1.5.8.0.9.8.0.8.", 48, 80);
+	kit.Beat("kick x...x... | hat x.x.x.x.", 70);
+	Sound alone, together[2];
+	std::string fault, faults[2];
+	ASSERT_TRUE(Perform(score, alone, fault)) << fault;
+	std::thread other([&] { Perform(score, together[1], faults[1]); });
+	Perform(score, together[0], faults[0]);
+	other.join();
+	for (Sound& sound : together) {
+		EXPECT_TRUE(sound.left == alone.left);
+		EXPECT_TRUE(sound.right == alone.right);
 	}
 }
