@@ -28,15 +28,6 @@ void CElementBreakable::BlastAll(int atX, int radius)
 		breakable->OnBlast(atX, radius);
 }
 
-HitOutcome WoodHit(int hits)
-{
-	if (g_ball->IsBulldozer() || g_ball->IsLarge())
-		return HIT_BREAKS;
-	if (g_ball->IsSmall())
-		return hits == 0 ? HIT_LIGHT : hits == 1 ? HIT_HEAVY : HIT_BREAKS;
-	return hits == 0 ? HIT_HEAVY : HIT_BREAKS;
-}
-
 void ShowInstead(CSprite*& current, CSprite* next)
 {
 	current->Hide();

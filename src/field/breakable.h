@@ -31,10 +31,6 @@ const int HITS_WHEN_BROKEN = 3;
 // Hits of the ball closer together than this are one hit.
 const int FRAMES_BETWEEN_HITS = 3;
 
-enum HitOutcome { HIT_LIGHT, HIT_HEAVY, HIT_BREAKS };
-
-// What the present ball does to wood that has taken so many hits. There must be a ball.
-HitOutcome WoodHit(int hits);
 // Hides the current sprite and plays the next at its place.
 void ShowInstead(CSprite*& current, CSprite* next);
 void PlayOneOf(CSound* const* sounds, int count);

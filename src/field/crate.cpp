@@ -75,13 +75,9 @@ CCrate::CCrate(int newX, int newY, int newLayer, int newContents, int newValue,
 CCrate::~CCrate()
 {
 	CrateList.erase(std::find(CrateList.begin(), CrateList.end(), this));
-	for (CSprite* sprite : {base, light, heavy, squash, explosion, orderSprite})
-		delete sprite;
+	delete squash;
+	delete orderSprite;
 	delete orderBobber;
-	for (int i = 0; i < 3; i++) {
-		delete damageSounds[i];
-		delete destroySounds[i];
-	}
 }
 
 // A hidden sprite at the crate's depth that plays its frames once.
@@ -114,11 +110,7 @@ void CCrate::LoadSprites()
 	explosion->AddSequence("explosion", 0, LAST_EXPLOSION, ".png");
 	currentSprite   = base;
 	collisionSprite = base;
-
-	for (int i = 0; i < 3; i++) {
-		damageSounds[i]  = new CSound("damage_object_wood" + std::to_string(i + 1) + ".ogg");
-		destroySounds[i] = new CSound("destroy_object_wood" + std::to_string(i + 1) + ".ogg");
-	}
+	LoadSounds();
 }
 
 void CCrate::LoadOrderNumber(int centreX)
@@ -190,56 +182,24 @@ void CCrate::PlaceSprites()
 	                  static_cast<int>(y - z) - explosionOffsetY);
 }
 
-bool CCrate::OnBallHit()
-{
-	if (!g_ball)
-		return false;
-	if (FramesSinceLastHit() < FRAMES_BETWEEN_HITS || broken)
-		return g_ball->IsBulldozer();
-
-	HitOutcome outcome = WoodHit(hits);
-	if (outcome == HIT_BREAKS) {
-		BreakOpen(false);
-	} else {
-		StartleOccupant(occupant);
-		hits = outcome == HIT_LIGHT ? 1 : 2;
-		ShowInstead(currentSprite, outcome == HIT_LIGHT ? light : heavy);
-		PlayOneOf(damageSounds, 3);
-	}
-	return g_ball->IsBulldozer();
-}
-
-void CCrate::Break(bool byShot, int, int)
-{
-	BreakOpen(byShot);
-}
-
 void CCrate::OnBlast(int atX, int radius)
 {
 	if (broken || falling || layer > 0)
 		return;
 	if (std::abs(CentreX() - atX) <= base->Width() / 2 + radius)
-		BreakOpen(false);
+		BreakDown(false);
 }
 
-void CCrate::BreakOpen(bool silent)
+void CCrate::BreakDown(bool silent)
 {
 	if (broken)
 		return;
-	PlayOneOf(destroySounds, 3);
-	broken = true;
-	hits   = HITS_WHEN_BROKEN;
-	StartleOccupant(occupant);
-	currentSprite->Hide();
+	FallApart();
 	if (orderSprite) {
 		orderSprite->Hide();
 		if (g_game)
 			g_game->RecordOrderBreak(orderNumber);
 	}
-	explosion->Rewind();
-	explosion->Show();
-	RemoveObstaclePoints(this);
-
 	if (upper)
 		upper->FallOneLayer();
 	upper = nullptr;

@@ -1,14 +1,12 @@
 // Crates and barrels, alone or in stacks, with what they hold.
 #pragma once
 
-#include "field/breakable.h"
+#include "field/wooden.h"
 
 class CBobber;
-class CSound;
 
-// A small ball breaks it with three hits, a medium one with two, a large one at once; the
-// bulldozer goes through. What it holds comes out when it breaks, and what stands on it falls.
-class CCrate : public CElementBreakable
+// What it holds comes out when it breaks, and what stands on it falls.
+class CCrate : public CElementWooden
 {
 public:
 	// With an anchor, x and y are offsets from its position. newValue -1 asks the game data for a
@@ -19,12 +17,10 @@ public:
 
 	void Place() override {}
 	void Update() override;
-	bool OnBallHit() override;
-	void Break(bool byShot, int, int) override;
 	void OnBlast(int atX, int radius) override;
 	const char* ClassName() const override { return "CCrate"; }
 
-	void BreakOpen(bool silent);
+	void BreakDown(bool silent) override;
 	Perch PerchPlace() const;
 
 	static int CountStanding(int offset, bool freeOnly);
@@ -38,24 +34,15 @@ public:
 	int contents; // point kind or power-up kind; 0 for none
 	int value;
 	bool falling = false;
-	int layer;       // 0 on the ground
-	int hits    = 0; // 0 to 3
-	bool broken = false;
+	int layer;                                                        // 0 on the ground
 	int layerHeight, depthOffset, explosionOffsetX, explosionOffsetY; // pixels
 	int orderNumber;
-	CCrate* upper            = nullptr; // stands on this one; not owned
-	CElementAnimal* occupant = nullptr; // not owned
+	CCrate* upper = nullptr; // stands on this one; not owned
 
-	// sprites, owned; currentSprite is one of the first four
-	CSprite* base;
-	CSprite* light;
-	CSprite* heavy;
+	// owned, beside what all wood has
 	CSprite* squash;
-	CSprite* explosion;
-	CSprite* orderSprite;     // null without a number
-	CBobber* orderBobber;     // owned
-	CSound* damageSounds[3];  // owned
-	CSound* destroySounds[3]; // owned
+	CSprite* orderSprite; // null without a number
+	CBobber* orderBobber; // owned
 
 private:
 	friend void StackCrate(CCrate* lower, CCrate* upper);

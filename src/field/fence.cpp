@@ -60,12 +60,6 @@ CFence::CFence(CFencePost* start, int direction, int newStyle, bool makeEndPost)
 CFence::~CFence()
 {
 	FenceList.erase(std::find(FenceList.begin(), FenceList.end(), this));
-	for (CSprite* sprite : {base, light, heavy, explosion})
-		delete sprite;
-	for (int i = 0; i < 3; i++) {
-		delete damageSounds[i];
-		delete destroySounds[i];
-	}
 }
 
 static CSprite* NewRailSprite(const std::string& stem, int first, int last)
@@ -94,11 +88,7 @@ void CFence::LoadSprites()
 	explosion->CenterY(top + base->Height() / 2);
 	currentSprite   = base;
 	collisionSprite = base;
-
-	for (int i = 0; i < 3; i++) {
-		damageSounds[i]  = new CSound("damage_object_wood" + std::to_string(i + 1) + ".ogg");
-		destroySounds[i] = new CSound("destroy_object_wood" + std::to_string(i + 1) + ".ogg");
-	}
+	LoadSounds();
 }
 
 void CFence::LayRails()
@@ -135,30 +125,6 @@ void CFence::Update()
 	currentSprite->SetPos(left, top, top + base->Height() / 2);
 }
 
-bool CFence::OnBallHit()
-{
-	if (!g_ball)
-		return false;
-	if (FramesSinceLastHit() < FRAMES_BETWEEN_HITS || broken)
-		return g_ball->IsBulldozer();
-
-	HitOutcome outcome = WoodHit(hits);
-	if (outcome == HIT_BREAKS) {
-		BreakDown(false);
-	} else {
-		StartleOccupant(occupant);
-		hits = outcome == HIT_LIGHT ? 1 : 2;
-		ShowInstead(currentSprite, outcome == HIT_LIGHT ? light : heavy);
-		PlayOneOf(damageSounds, 3);
-	}
-	return g_ball->IsBulldozer();
-}
-
-void CFence::Break(bool byShot, int, int)
-{
-	BreakDown(byShot);
-}
-
 void CFence::OnBlast(int atX, int radius)
 {
 	if (!broken && std::abs(CentreX() - atX) <= base->Width() / 2 + BLAST_MARGIN + radius)
@@ -169,14 +135,7 @@ void CFence::BreakDown(bool silent)
 {
 	if (broken)
 		return;
-	PlayOneOf(destroySounds, 3);
-	broken = true;
-	StartleOccupant(occupant);
-	hits = HITS_WHEN_BROKEN;
-	currentSprite->Hide();
-	explosion->Rewind();
-	explosion->Show();
-	RemoveObstaclePoints(this);
+	FallApart();
 	if (!silent && g_sidebar)
 		g_sidebar->OnFenceBroken(CentreX(), static_cast<int>(y));
 	if (g_levelGameData)

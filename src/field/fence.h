@@ -1,15 +1,14 @@
 // Fence sections and the posts between them.
 #pragma once
 
-#include "field/breakable.h"
+#include "field/wooden.h"
 
 class CFencePost;
-class CSound;
 
 enum FenceDirection { FENCE_RIGHT = 0, FENCE_LEFT = 1 };
 
-// One run of rails between two posts; takes damage as a crate does.
-class CFence : public CElementBreakable
+// One run of rails between two posts.
+class CFence : public CElementWooden
 {
 public:
 	// Starts at a post and goes left or right. Style 0 level, 1 falling to the right, 2 rising to
@@ -19,12 +18,10 @@ public:
 
 	void Place() override {}
 	void Update() override;
-	bool OnBallHit() override;
-	void Break(bool byShot, int, int) override;
 	void OnBlast(int atX, int radius) override;
 	const char* ClassName() const override { return "CFence"; }
 
-	void BreakDown(bool silent);
+	void BreakDown(bool silent) override;
 	Perch PerchPlace() const;
 	CFencePost* FarPost(int direction) const; // the next section's start
 
@@ -32,20 +29,9 @@ public:
 	static CFence* NthFree(int n, int offset);
 	static std::vector<CFence*> FenceList; // in order of creation
 
-	int hits = 0; // 0 to 3
 	int style;
-	bool broken              = false;
-	CFencePost* leftPost     = nullptr; // not owned
-	CFencePost* rightPost    = nullptr; // not owned
-	CElementAnimal* occupant = nullptr; // not owned
-
-	// sprites, owned; currentSprite is one of the first three
-	CSprite* base;
-	CSprite* light;
-	CSprite* heavy;
-	CSprite* explosion;
-	CSound* damageSounds[3];  // owned
-	CSound* destroySounds[3]; // owned
+	CFencePost* leftPost  = nullptr; // not owned
+	CFencePost* rightPost = nullptr; // not owned
 
 private:
 	friend void CloseFence(CFence* last, CFencePost* post);

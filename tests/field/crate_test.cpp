@@ -300,7 +300,7 @@ TEST_F(CrateTest, BirdFliesUpWhenItsCrateIsHitOrFalls)
 	CCrate* upper = Crate(300, 300, 1);
 	StackCrate(crate, upper);
 	upper->occupant = bird;
-	crate->BreakOpen(false);
+	crate->BreakDown(false);
 	EXPECT_EQ(2, bird->flights);
 	EXPECT_EQ(nullptr, upper->occupant);
 }
@@ -313,7 +313,7 @@ TEST_F(CrateTest, QueriesFindStandingCrates)
 	EXPECT_TRUE(CCrate::AnyAt(x + 10, y - 10, 10, 10));
 	EXPECT_FALSE(CCrate::AnyAt(x + 11, y, 10, 10));
 	EXPECT_TRUE(CCrate::AnyHoldsCoinsOrApples());
-	crate->BreakOpen(true);
+	crate->BreakDown(true);
 	EXPECT_FALSE(CCrate::AnyAt(x, y, 10, 10));
 	EXPECT_FALSE(CCrate::AnyHoldsCoinsOrApples());
 }
@@ -344,8 +344,8 @@ TEST_F(CrateInLevelTest, OrderNumbersAreReportedAsTheyBreak)
 	CCrate* second        = OrderCrate(300, 300, POWERUP_MONEY, 2);
 	CCrate* first         = OrderCrate(400, 300, POWERUP_MONEY, 1);
 	EXPECT_FALSE(second->orderSprite->IsHidden());
-	second->BreakOpen(false);
-	first->BreakOpen(false);
+	second->BreakDown(false);
+	first->BreakDown(false);
 	EXPECT_TRUE(second->orderSprite->IsHidden());
 	EXPECT_EQ(2, game->rules.orderRecord[0]);
 	EXPECT_EQ(1, game->rules.orderRecord[1]);
@@ -357,14 +357,14 @@ TEST_F(CrateInLevelTest, ABirdIsUpsetOnceHoweverOftenItsPerchesAreHit)
 	CStartledAnimal* bird = new CStartledAnimal();
 	CCrate* crate         = Crate(300, 300);
 	crate->occupant       = bird;
-	crate->BreakOpen(false);
+	crate->BreakDown(false);
 	EXPECT_EQ(0, game->rules.dodgeHits) << "only dodgeball levels count";
 
 	game->rules.isDodgeball = true;
 	for (int i = 0; i < 2; i++) {
 		CCrate* next   = Crate(300, 300);
 		next->occupant = bird;
-		next->BreakOpen(false);
+		next->BreakDown(false);
 	}
 	EXPECT_EQ(3, bird->flights);
 	EXPECT_EQ(1, game->rules.dodgeHits);

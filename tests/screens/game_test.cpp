@@ -185,7 +185,7 @@ TEST_F(GameTest, ReloadGivesAFreshLevel)
 {
 	UntilPlay();
 	Launch();
-	CCrate::CrateList[0]->BreakOpen(true);
+	CCrate::CrateList[0]->BreakDown(true);
 	size_t sprites = g_render->sprites.size();
 	game->levelNumber--;
 	game->ReloadLevel();
