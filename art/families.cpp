@@ -53,6 +53,16 @@ void AddEverything(Catalogue& catalogue)
 	AddDuck(catalogue);
 	AddDuckling(catalogue);
 	AddButterflies(catalogue);
+	AddCow(catalogue);
+	AddPigs(catalogue);
+	AddBears(catalogue);
+	AddHorses(catalogue);
+	AddGoats(catalogue);
+	AddDogs(catalogue);
+	AddCats(catalogue);
+	AddGiants(catalogue);
+	AddDeer(catalogue);
+	AddRovers(catalogue);
 	AddPortraits(catalogue);
 
 	AddSounds(catalogue);

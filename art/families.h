@@ -38,6 +38,16 @@ void AddMonkey(Catalogue& catalogue);
 void AddDuck(Catalogue& catalogue);
 void AddDuckling(Catalogue& catalogue);
 void AddButterflies(Catalogue& catalogue);
+void AddCow(Catalogue& catalogue);
+void AddPigs(Catalogue& catalogue);      // pig, warthog
+void AddBears(Catalogue& catalogue);     // bear, polar bear, panda
+void AddHorses(Catalogue& catalogue);    // horse, zebra, unicorn, donkey
+void AddGoats(Catalogue& catalogue);     // goat, bighorn
+void AddDogs(Catalogue& catalogue);      // dog, fox, wolf, coyote, hyena
+void AddCats(Catalogue& catalogue);      // cat, tiger, snow tiger, lion
+void AddGiants(Catalogue& catalogue);    // elephant, hippo, rhino
+void AddDeer(Catalogue& catalogue);      // deer, moose, camel
+void AddRovers(Catalogue& catalogue);    // mouse, raccoon, skunk
 void AddPortraits(Catalogue& catalogue); // in the side panel: faces, closed lids, names
 
 // what is heard

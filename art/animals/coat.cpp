@@ -47,8 +47,13 @@ Colour CoatColour(const Coat& coat, const SurfacePoint& at)
 	return c;
 }
 
-int AddCoat(Model& model, const Coat& coat)
+int AddCoat(Model& model, const Coat& coat, float lean)
 {
-	return model.Painted([coat](const SurfacePoint& at) { return CoatColour(coat, at); },
-	                     coat.gloss);
+	return model.Painted(
+	    [coat, upright = TurnZ(-lean)](const SurfacePoint& at) {
+		    SurfacePoint level = at;
+		    level.normal       = upright * at.normal;
+		    return CoatColour(coat, level);
+	    },
+	    coat.gloss);
 }

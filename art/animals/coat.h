@@ -23,5 +23,6 @@ struct Coat {
 };
 
 Colour CoatColour(const Coat& coat, const SurfacePoint& at);
-// Adds the coat as a material and gives its number.
-int AddCoat(Model& model, const Coat& coat);
+// Adds the coat as a material and gives its number. lean: radians that the body is reared up; its
+// belly is still the side that the legs are on.
+int AddCoat(Model& model, const Coat& coat, float lean = 0);

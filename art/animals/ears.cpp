@@ -1,6 +1,7 @@
 // Each kind of ear.
 #include "art/animals/ears.h"
 
+static const float NEAR_FAN_TURN = -.66f, FAR_FAN_TURN = .10f; // radians to the front
 namespace
 {
 struct EarBuilder {
@@ -8,6 +9,7 @@ struct EarBuilder {
 	const Head& head;
 	const HeadFrame& frame;
 	int s, outer, inner;
+	bool far;              // from the viewer
 	float r, er, el, back; // head radius, ear radius and length, swing
 
 	void Add();
@@ -81,13 +83,16 @@ void EarBuilder::AddFlop()
 	                t + frame.Along(er * .55f, -.1f, -s * .4f), er * .42f, er * .62f, inner, 0);
 }
 
-// An elephant's. The plate is turned toward the side view, or it is seen edge-on as a stick.
+// An elephant's. The near plate is turned toward the side view and the far one out, or they are
+// seen edge-on as sticks.
 void EarBuilder::AddFan()
 {
-	Mat3 plate = frame.axes * TurnY(-s * (.60f - back * .75f));
-	Vec3 e     = frame.Point(-r * .55f, r * .08f, s * r * (1.12f + back * .15f));
-	model.Ellipsoid(e, {1.4f, r * 1.0f, r * .86f}, plate, outer, .8f);
-	model.Ellipsoid(e + plate * Vec3{1.0f, 0, 0}, {.8f, r * .80f, r * .66f}, plate, inner, 0);
+	float turn = far ? FAR_FAN_TURN : NEAR_FAN_TURN + back * .35f;
+	Mat3 plate = frame.axes * TurnY(s * turn) * TurnX(s * back * .12f);
+	Vec3 e     = frame.Point(-r * .55f, r * .08f, s * r * (1.14f + back * .12f));
+	float tall = r * (1.08f + .10f * back), wide = r * (1.0f + .22f * back);
+	model.Ellipsoid(e, {1.4f, tall, wide}, plate, outer, .8f);
+	model.Ellipsoid(e + plate * Vec3{1.0f, 0, 0}, {.8f, tall * .8f, wide * .76f}, plate, inner, 0);
 }
 
 void EarBuilder::AddLong()
@@ -119,7 +124,8 @@ void AddEar(Model& model, const Head& head, const HeadFrame& frame, const Pose& 
             int coat, int inner)
 {
 	int outer = head.earColour ? model.Plain(head.earColour) : coat;
-	EarBuilder{model, head,        frame,          side,           outer,
-	           inner, head.radius, head.earRadius, head.earLength, pose.earSwing}
+	bool far  = (side > 0) == pose.left;
+	EarBuilder{model, head,        frame,          side,           outer,        inner,
+	           far,   head.radius, head.earRadius, head.earLength, pose.earSwing}
 	    .Add();
 }

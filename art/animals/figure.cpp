@@ -4,6 +4,8 @@
 #include "art/core/palette.h"
 
 static const int SUPERSAMPLE       = 4;
+static const int BROAD_SUPERSAMPLE = 3;  // enough for figures wider than this
+static const float BROAD           = 58; // pixels
 static const int MEASURE_SAMPLES   = 2;
 static const int ROOM              = 3;     // canvas that is measured on, in sizes of the figure
 static const float SEEN            = .04f;  // alpha of the faintest pixel that a crop keeps
@@ -90,7 +92,8 @@ Image Figure::Draw(const Pose& pose, const Window& window) const
 {
 	ShadeStyle style;
 	style.innerDepth = INNER_DEPTH * std::max(1.f, .8f / scale);
-	Image figure     = Render(pose, window, 1, SUPERSAMPLE, style);
+	bool broad       = species.width > BROAD;
+	Image figure     = Render(pose, window, 1, broad ? BROAD_SUPERSAMPLE : SUPERSAMPLE, style);
 	if (!pose.shadow || IsAirborne(species))
 		return figure;
 	Image out(window.width, window.height);

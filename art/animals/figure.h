@@ -6,7 +6,7 @@
 #include "art/core/renderer.h"
 
 // Adds the parts of one figure in a pose to a model. Its feet stand on y = 0, its nose points to x.
-using BuildFigure = void (*)(Model& model, const View& view, const Pose& pose);
+using BuildFigure = std::function<void(Model& model, const View& view, const Pose& pose)>;
 
 // A part of the plane in whole pixels from the foot point, y downward.
 struct Window {
@@ -19,7 +19,7 @@ Window Mirrored(const Window& window);
 
 struct Species {
 	std::string prefix; // of its picture files
-	BuildFigure build = nullptr;
+	BuildFigure build;
 	// True size of the standing picture in pixels, outline included: one of the two, the other 0.
 	float width = 0, height = 0;
 	float sideTurn  = 24; // degrees that the side view is turned to the viewer

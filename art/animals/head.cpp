@@ -8,6 +8,7 @@
 static const float MOUTH_LINE  = .36f;     // radius
 static const uint32_t GULLET   = 0x7c1c2c; // inside of a mouth
 static const uint32_t TONGUE   = 0xf07a80;
+static const uint32_t TOOTH    = 0xfff8e4;
 static const uint32_t DARK_LID = 0x4a4450; // of eyes within a dark mark
 static const int BOTH[]        = {-1, 1};
 
@@ -170,6 +171,9 @@ void HeadBuilder::AddOpenMouth()
 		Vec3 aside = frame.Along(0, 0, s * (wide - tip * .5f));
 		model.RoundCone(hinge + aside, jawTip + aside, tip * .50f, tip * .42f, muzzle,
 		                s < 0 ? .3f : 1.5f);
+		if (head.teeth > 0)
+			model.RoundCone(jawTip + aside, jawTip + aside + frame.Along(.3f, head.teeth, 0), 1.2f,
+			                .8f, model.Plain(TOOTH, .4f), 0);
 	}
 }
 

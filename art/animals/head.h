@@ -27,6 +27,7 @@ struct Head {
 	float muzzleWide = 0;     // two half muzzles this far apart
 	bool disc        = false; // a pig's snout
 	bool mouthLine   = true;
+	float teeth      = 0; // pegs in the lower jaw, seen when the mouth is open
 	float nose       = 1.6f;
 	Eye eye;
 	EarKind ear     = EarKind::Round;

@@ -1,5 +1,6 @@
 // Head-and-shoulders pictures for the side panel's window, their closed lids and the words below.
 #include "art/animals/actions.h"
+#include "art/animals/beasts.h"
 #include "art/animals/duck.h"
 #include "art/animals/figure.h"
 #include "art/animals/monkey.h"
@@ -27,10 +28,40 @@ struct Portrait {
 // clang-format off
 static const Portrait PORTRAITS[] = {
 	// number, word, species, zoom, look
-	{ 16, "Duck",     Duck,     3.3f, .25f },
-	{ 17, "Duckling", Duckling, 4.3f, .25f },
-	{ 35, "Monkey",   Monkey,   3.0f, .10f },
-	{ 50, "Sheep",    Sheep,    2.7f, .25f },
+	{  1, "Bear",       Bear,       1.95f, .2f },
+	{  3, "Bighorn",    Bighorn,    2.0f, .25f },
+	{  6, "Camel",      Camel,      2.1f, .25f },
+	{  7, "Cat",        Cat,        3.3f, .25f },
+	{ 10, "Cow",        Cow,        1.85f, .25f },
+	{ 11, "Coyote",     Coyote,     2.4f, .25f },
+	{ 13, "Deer",       Deer,       1.8f, .25f },
+	{ 14, "Dog",        Dog,        3.25f, .25f },
+	{ 15, "Donkey",     Donkey,     1.9f, .25f },
+	{ 16, "Duck",       Duck,       3.3f, .25f },
+	{ 17, "Duckling",   Duckling,   4.3f, .25f },
+	{ 19, "Elephant",   Elephant,   1.2f, .25f },
+	{ 21, "Fox",        Fox,        2.9f, .25f },
+	{ 23, "Goat",       Goat,       2.1f, .25f },
+	{ 26, "Hippo",      Hippo,      1.75f, .25f },
+	{ 27, "Horse",      Horse,      2.0f, .25f },
+	{ 28, "Hyena",      Hyena,      2.45f, .25f },
+	{ 33, "Lion",       Lion,       1.35f, .2f },
+	{ 35, "Monkey",     Monkey,     3.0f, .1f },
+	{ 36, "Moose",      Moose,      1.45f, .25f },
+	{ 37, "Mouse",      Mouse,      4.1f, .25f },
+	{ 40, "Panda",      Panda,      1.9f, .2f },
+	{ 42, "Pig",        Pig,        2.15f, .25f },
+	{ 44, "Polar Bear", PolarBear,  2.0f, .25f },
+	{ 46, "Raccoon",    Raccoon,    2.85f, .25f },
+	{ 47, "Rhino",      Rhino,      1.8f, .25f },
+	{ 50, "Sheep",      Sheep,      2.7f, .25f },
+	{ 51, "Skunk",      Skunk,      2.8f, .25f },
+	{ 53, "Snow Tiger", SnowTiger,  1.6f, .2f },
+	{ 57, "Tiger",      Tiger,      1.6f, .2f },
+	{ 62, "Warthog",    Warthog,    2.1f, .25f },
+	{ 63, "Wolf",       Wolf,       2.0f, .25f },
+	{ 64, "Zebra",      Zebra,      2.0f, .25f },
+	{ 65, "Unicorn",    Unicorn,    1.65f, .25f },
 };
 // clang-format on
 

@@ -9,7 +9,7 @@ static const float STANCE    = .6f;                      // part of a stride tha
 static const float LIFT      = .24f;                     // of a foot, part of the leg
 static const float LEG_SWEEP = .36f, MOST_SWEEP = 4.6f;
 static const float FAR_SHADE      = .55f;  // far legs lie in shadow, or a walk can't be read
-static const float GRAZING_HEIGHT = 1.28f; // head radii over the ground
+static const float GRAZING_HEIGHT = 1.28f; // least, in head radii
 static const float GRAZING_TIP    = .68f;  // radians, nose down
 static const int WOOL_LUMPS       = 38;
 static const float GOLDEN_TURN    = 2.39996f; // radians
@@ -43,8 +43,10 @@ private:
 	float LegHeight(const Leg& leg) const;
 	Vec3 JointOf(const Leg& leg) const;
 	Vec3 SteppingFoot(const Leg& leg) const;
+	Vec3 KickedFoot(const Leg& leg, float height) const;
 	Vec3 FootOf(const Leg& leg, Vec3 joint) const;
 	void AddLeg(const Leg& leg);
+	float GrazingHeight() const;
 	Vec3 HeadCentre(Vec3 base) const;
 	void AddNeckAndHead();
 	void AddMane(const HeadFrame& frame, Vec3 base);
@@ -61,8 +63,8 @@ private:
 
 void QuadrupedBuilder::Build()
 {
-	MakeMaterials();
 	PlaceBody();
+	MakeMaterials();
 	if (animal.wool)
 		AddWool();
 	else
@@ -83,7 +85,8 @@ void QuadrupedBuilder::Build()
 	                   coat,
 	                   plainCoat,
 	                   mane,
-	                   animal.tailTip ? model.Plain(animal.tailTip) : mane};
+	                   animal.tailTip ? model.Plain(animal.tailTip) : mane,
+	                   view.NearSide()};
 	AddTail(model, animal, place);
 }
 
@@ -104,7 +107,7 @@ int QuadrupedBuilder::DimmedCoat()
 void QuadrupedBuilder::MakeMaterials()
 {
 	const Coat& fur = animal.coat;
-	coat            = AddCoat(model, fur);
+	coat            = AddCoat(model, fur, tip);
 	plainCoat       = model.Plain(fur.base, fur.gloss);
 	uint32_t leg = animal.legs ? animal.legs : fur.base, foot = animal.feet ? animal.feet : leg;
 	if (animal.patternedLegs) {
@@ -127,8 +130,8 @@ void QuadrupedBuilder::PlaceBody()
 	phase          = walking ? pose.stride : 0;
 	float bob      = walking ? std::sin(phase * 4 * PI) * BODY_BOB : 0;
 	float lag      = walking ? std::sin(phase * 4 * PI + SHOULDER_LAG) * SHOULDER_BOB : 0;
-	float hipDown  = pose.lie * (animal.hipHeight - animal.belly * .92f);
-	float foreDown = pose.lie * (animal.shoulderHeight - animal.chest * .92f);
+	float hipDown  = pose.lie * (animal.hipHeight - animal.belly * 1.06f);
+	float foreDown = pose.lie * (animal.shoulderHeight - animal.chest * 1.06f);
 	float lowHip   = animal.wool ? 0 : 1.5f;
 
 	hip = {-animal.length * .5f, animal.hipHeight - lowHip + bob - pose.squash * .8f - hipDown, 0};
@@ -137,7 +140,7 @@ void QuadrupedBuilder::PlaceBody()
 	if (tip > 0)
 		shoulder = Swing(shoulder, hip, tip);
 	if (pose.kick > 0)
-		hip = Swing(hip, shoulder, -pose.kick * .55f);
+		hip = Swing(hip, shoulder, -pose.kick * .42f);
 	hip.y += pose.rise;
 	shoulder.y += pose.rise;
 }
@@ -248,6 +251,13 @@ Vec3 QuadrupedBuilder::SteppingFoot(const Leg& leg) const
 	return foot;
 }
 
+// From the hip. Well behind the rump, and not one leg behind the other.
+Vec3 QuadrupedBuilder::KickedFoot(const Leg& leg, float height) const
+{
+	bool nearSide = (leg.z > 0) == (view.NearSide() > 0);
+	return {-height * 1.15f, height * (nearSide ? -.22f : .16f), leg.z * .3f};
+}
+
 Vec3 QuadrupedBuilder::FootOf(const Leg& leg, Vec3 joint) const
 {
 	float height = LegHeight(leg);
@@ -258,8 +268,7 @@ Vec3 QuadrupedBuilder::FootOf(const Leg& leg, Vec3 joint) const
 		foot = Mix(foot, hanging, Clamp01(pose.rear * 1.6f));
 	}
 	if (!leg.front && pose.kick > 0)
-		foot = Mix(foot, joint + Vec3{-height * .95f, height * .10f, 0},
-		           Smoothstep(0, .5f, pose.kick));
+		foot = Mix(foot, joint + KickedFoot(leg, height), Smoothstep(0, .5f, pose.kick));
 	float fold = std::max(pose.tuck, pose.lie);
 	if (fold > 0) {
 		Vec3 folded =
@@ -302,6 +311,16 @@ void QuadrupedBuilder::AddLeg(const Leg& leg)
 		                {paw * animal.pawStretch, paw * .66f, paw * .95f}, Mat3(), shoe, .9f);
 }
 
+// Of the head's centre: the muzzle just touches the ground.
+float QuadrupedBuilder::GrazingHeight() const
+{
+	const Head& head = animal.head;
+	float down       = GRAZING_TIP - Radians(animal.headPitch);
+	float reach      = std::sin(down) * (head.radius * .62f + head.muzzleLength);
+	float below      = std::cos(down) * (head.muzzleDrop - head.muzzleLength * .12f);
+	return std::max(head.radius * GRAZING_HEIGHT, reach - below + head.muzzleTip - .15f);
+}
+
 Vec3 QuadrupedBuilder::HeadCentre(Vec3 base) const
 {
 	float r = animal.head.radius, chest = animal.chest;
@@ -315,13 +334,13 @@ Vec3 QuadrupedBuilder::HeadCentre(Vec3 base) const
 	if (pose.headDown > 0) { // on an arc round the neck's base, or a long neck shrinks half way
 		float t       = pose.headDown;
 		Vec3 grazing  = shoulder + Vec3{animal.neckForward * 1.15f + chest * .55f,
-                                       -(animal.shoulderHeight - r * GRAZING_HEIGHT), 0};
+                                       GrazingHeight() - animal.shoulderHeight, 0};
 		Vec3 straight = Mix(centre, grazing, t);
 		float reach   = Mix(Length(centre - base), Length(grazing - base), t);
 		centre        = base + Normalize(straight - base) * reach;
 	}
 	if (pose.lie > 0)
-		centre = Mix(centre, {shoulder.x + chest * .9f, r * .82f, view.NearSide() * chest * .5f},
+		centre = Mix(centre, {shoulder.x + chest * .9f, r * 1.12f, view.NearSide() * chest * .5f},
 		             pose.lie);
 	if (walking)
 		centre.y += std::sin(phase * 4 * PI + HEAD_LAG) * .5f;

@@ -91,8 +91,9 @@ void TailBuilder::AddCurl()
 {
 	for (int i = 0; i < 9; i++) {
 		float a = i * .8f;
-		model.Ball(root + Vec3{-.6f - i * .32f, 1.4f * std::sin(a) + .6f, 1.4f * std::cos(a)}, .85f,
-		           place.plainCoat, .5f);
+		model.Ball(root + Vec3{-.6f - i * .32f, 1.4f * std::sin(a) + .6f,
+		                       place.nearSide * 1.4f * std::cos(a)},
+		           .85f, place.plainCoat, .5f);
 	}
 }
 

@@ -7,6 +7,7 @@ struct TailPlace {
 	Vec3 root;
 	float swing, raise;             // sideways and upward
 	int coat, plainCoat, mane, tip; // materials
+	float nearSide;                 // sign of z on the viewer's side
 };
 
 void AddTail(Model& model, const Quadruped& animal, const TailPlace& place);
