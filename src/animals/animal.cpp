@@ -12,6 +12,7 @@
 #include "field/sidebar.h"
 #include "frame/random.h"
 #include "media/sprite.h"
+#include "screens/game.h"
 #include "sound/sound.h"
 #include "state/game_data.h"
 
@@ -375,4 +376,12 @@ int CElementAnimal::CountToRescue()
 			count++;
 	}
 	return count;
+}
+
+void CElementAnimal::NoteUpset()
+{
+	if (!g_game || upset)
+		return;
+	upset = true;
+	g_game->AddDodgeHit();
 }

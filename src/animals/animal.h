@@ -73,7 +73,7 @@ public:
 	bool optional             = false; // nothing waits for it
 	bool mayTurn              = false;
 	bool ignoresTrees         = false;
-	bool upset                = false; // its perch was hit: counts once on a dodgeball level
+	bool upset                = false; // disturbed once: counts on a dodgeball level
 	CSound* callSound         = nullptr;
 	const SpeciesTable* table = nullptr; // not owned
 
@@ -126,6 +126,7 @@ protected:
 	void PlaceOn(CFence* fence, bool left);
 	void StartLife(bool left); // the first action; part of those that place
 
+	void NoteUpset();                    // once an animal, for a dodgeball level
 	void FlyAsPerchingBird();            // the flight numbers that all perching birds share
 	CSprite* OwnSprite(CSprite* sprite); // deleted with the animal
 	CSound* OwnSound(CSound* sound);

@@ -10,7 +10,29 @@
 #include <cmath>
 #include <set>
 
-typedef AnimalTest SpeciesTest;
+class SpeciesTest : public AnimalTest
+{
+protected:
+	// An animal cannot be made before the container has all its pictures.
+	static bool HasPictures(const SpeciesEntry& entry)
+	{
+		for (const std::string& file : AllPictureFiles(*entry.table)) {
+			if (!g_display->HasImage(file))
+				return false;
+		}
+		return true;
+	}
+};
+
+static bool Walks(const SpeciesTable& table)
+{
+	for (const ActionRow& row : table.actions) {
+		if (row.weight > 0 &&
+		    (row.kind == ACTION_WALK || row.kind == ACTION_WALK_BOTH || row.kind == ACTION_FLUTTER))
+			return true;
+	}
+	return table.actions.empty(); // all that have a machine of their own do
+}
 
 TEST(SpeciesTables, PictureNamesFollowTheRules)
 {
@@ -103,6 +125,8 @@ TEST_F(SpeciesTest, EverySpeciesIsMadeAtItsPlace)
 {
 	for (const SpeciesEntry& entry : AllSpecies()) {
 		SCOPED_TRACE(entry.table->prefix);
+		if (!HasPictures(entry))
+			continue;
 		CElementAnimal* animal = NewAnimal(entry.species, 300, 250, true);
 		ASSERT_NE(nullptr, animal);
 		EXPECT_NEAR(300, animal->CentreX(), 0.5);
@@ -127,6 +151,8 @@ TEST_F(SpeciesTest, EverySpeciesLivesInASmallField)
 {
 	for (const SpeciesEntry& entry : AllSpecies()) {
 		SCOPED_TRACE(entry.table->prefix);
+		if (!HasPictures(entry))
+			continue;
 		WallIn(60);
 		std::vector<ObstaclePoint*> posts;
 		CElement* scenery = new CTestScenery;
@@ -150,7 +176,10 @@ TEST_F(SpeciesTest, EverySpeciesLivesInASmallField)
 			ASSERT_FALSE(animal->currentSprite->IsHidden()) << "frame " << i;
 		}
 		EXPECT_GT(shown.size(), 3u);
-		EXPECT_GT(farthest, 10) << "it walks about";
+		if (Walks(*entry.table))
+			EXPECT_GT(farthest, 10) << "it walks about";
+		else
+			EXPECT_EQ(0, farthest) << "it stays where it is";
 		ClearField();
 	}
 }
@@ -160,6 +189,7 @@ TEST_F(SpeciesTest, EveryPictureLoads)
 {
 	for (const SpeciesEntry& entry : AllSpecies()) {
 		for (const std::string& file : AllPictureFiles(*entry.table)) {
+			ASSERT_TRUE(g_display->HasImage(file)) << file;
 			int image = g_display->LoadImage(file);
 			EXPECT_GT(g_display->ImageWidth(image), 0) << file;
 			g_display->ReleaseImage(image);

@@ -1,0 +1,39 @@
+// Bot: the one machine among the animals; trundles about and writes things down.
+#include "animals/plain_species.h"
+
+#include "animals/species.h"
+#include "animals/species_numbers.h"
+
+// clang-format off
+static const ActionRow s_actions[] = {
+	// name          kind          frames  weight role       then options
+	{ "stand",       ACTION_IDLE,  ".",        0, ROLE_NONE, "" },
+	{ "lookA",       ACTION_LOOK,  "0-4",      1, ROLE_NONE, "", { .sounds = {"bot_look.ogg"} } },
+	{ "lookB",       ACTION_LOOK,  "0-4",      1, ROLE_NONE, "", { .sounds = {"bot_look.ogg"} } },
+	{ "again:lookB", ACTION_LOOK,  "0-4",      1, ROLE_NONE, "", { .hold = Between(15, 40) } },
+	{ "stunned",     ACTION_BUMP,  "0-6",      0, ROLE_BUMP, "" },
+	{ "trundle",     ACTION_WALK,  "0-7",      4, ROLE_NONE, "" },
+	{ "write",       ACTION_EXTRA, "0-7",      2, ROLE_NONE, "", { .repeats = Between(2, 4) } },
+};
+
+static const BodyPoint s_body[] = {
+	{ 9, 32 }, { 18, 34 }, { 26, 34 }, { 35, 32 }, { 42, 28 },
+	{ 35, 23 }, { 26, 21 }, { 18, 21 }, { 9, 23 }, { 2, 28 },
+};
+// clang-format on
+
+const SpeciesTable BOT_TABLE = {"bot", s_actions, {}, s_body, {}, {}};
+
+CBot::CBot(int centreX, int centreY, bool left)
+{
+	species       = SPECIES_BOT;
+	bodyRadius    = 22;
+	weight        = 8;
+	requiredStage = 11;
+	speedX        = 2;
+	mayTurn       = true;
+
+	LoadCall("bot_hit.ogg");
+	BuildActions(BOT_TABLE);
+	PlaceAt(centreX, centreY, left);
+}

@@ -1,0 +1,49 @@
+// Camel: falls over when bumped and takes its time to get up.
+#include "animals/camel.h"
+
+#include "animals/species.h"
+#include "animals/species_numbers.h"
+
+// clang-format off
+static const ActionRow s_actions[] = {
+	// name         kind          frames  weight role       then options
+	{ "stand",      ACTION_IDLE,  ".",        0, ROLE_NONE, "" },
+	{ "standblink", ACTION_BLINK, ".",        2, ROLE_NONE, "" },
+	{ "look",       ACTION_LOOK,  "0-4",      1, ROLE_NONE, "" },
+	{ "stunned",    ACTION_BUMP,  "0-6",      0, ROLE_BUMP, "",
+	  { .sounds = {"camel_fall.ogg"}, .soundDelay = 6 } },
+	{ "chewcud",    ACTION_EXTRA, "0-5",      1, ROLE_NONE, "", { .time = Between(60, 120) } },
+	{ "lowerhead",  ACTION_EXTRA, "0-5",      1, ROLE_NONE, "",
+	  { .hold = Between(60, 120), .exitFrames = EXIT_BACK } },
+};
+
+static const BodyPoint s_body[] = {
+	{ 8, 46 }, { 15, 48 }, { 24, 50 }, { 32, 50 }, { 40, 50 },
+	{ 48, 48 }, { 56, 46 }, { 62, 40 }, { 56, 35 }, { 49, 33 },
+	{ 40, 31 }, { 32, 31 }, { 24, 31 }, { 16, 33 }, { 8, 35 },
+	{ 2, 40 },
+};
+// clang-format on
+
+const SpeciesTable CAMEL_TABLE = {"camel", s_actions, {}, s_body, {}, {}};
+
+CCamel::CCamel(int centreX, int centreY, bool left)
+{
+	species       = SPECIES_CAMEL;
+	bodyRadius    = 32;
+	weight        = 9;
+	requiredStage = 16;
+	speedX        = 2;
+	mayTurn       = true;
+
+	LoadCall("camel_grunt.ogg");
+	BuildActions(CAMEL_TABLE);
+	PlaceAt(centreX, centreY, left);
+}
+
+bool CCamel::OnBallHit()
+{
+	if (currentAction == bumpAction && !CanCapture())
+		return false;
+	return TryCapture();
+}

@@ -1,0 +1,37 @@
+// Fox: trots in all directions.
+#include "animals/plain_species.h"
+
+#include "animals/species.h"
+#include "animals/species_numbers.h"
+
+// clang-format off
+static const ActionRow s_actions[] = {
+	// name         kind              frames  weight role       then
+	{ "stand",      ACTION_IDLE,      ".",        0, ROLE_NONE, "" },
+	{ "standblink", ACTION_BLINK,     ".",        2, ROLE_NONE, "" },
+	{ "look",       ACTION_LOOK,      "0-4",      1, ROLE_NONE, "" },
+	{ "stunned",    ACTION_BUMP,      "0-6",      0, ROLE_BUMP, "" },
+	{ "walkup",     ACTION_WALK_BOTH, "0-7",      2, ROLE_NONE, "" },
+};
+
+static const BodyPoint s_body[] = {
+	{ 8, 19 }, { 15, 20 }, { 23, 20 }, { 30, 19 }, { 36, 14 },
+	{ 30, 10 }, { 23, 9 }, { 15, 9 }, { 8, 10 }, { 2, 14 },
+};
+// clang-format on
+
+const SpeciesTable FOX_TABLE = {"fox", s_actions, {}, s_body, {}, {}};
+
+CFox::CFox(int centreX, int centreY, bool left)
+{
+	species       = SPECIES_FOX;
+	bodyRadius    = 19;
+	weight        = 5;
+	requiredStage = 10;
+	speedX        = 2;
+	speedY        = 1;
+	mayTurn       = true;
+
+	BuildActions(FOX_TABLE);
+	PlaceAt(centreX, centreY, left);
+}

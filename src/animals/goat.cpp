@@ -1,0 +1,38 @@
+// Goat: bleats and walks on.
+#include "animals/plain_species.h"
+
+#include "animals/species.h"
+#include "animals/species_numbers.h"
+
+// clang-format off
+static const ActionRow s_actions[] = {
+	// name         kind          frames  weight role       then
+	{ "stand",      ACTION_IDLE,  ".",        0, ROLE_NONE, "" },
+	{ "standblink", ACTION_BLINK, ".",        2, ROLE_NONE, "" },
+	{ "look",       ACTION_LOOK,  "0-4",      1, ROLE_NONE, "" },
+	{ "stunned",    ACTION_BUMP,  "0-6",      0, ROLE_BUMP, "" },
+	{ "walk",       ACTION_WALK,  "0-11",     2, ROLE_NONE, "" },
+};
+
+static const BodyPoint s_body[] = {
+	{ 8, 32 }, { 16, 34 }, { 24, 34 }, { 32, 34 }, { 40, 32 },
+	{ 46, 27 }, { 40, 22 }, { 32, 20 }, { 24, 20 }, { 16, 20 },
+	{ 8, 22 }, { 2, 27 },
+};
+// clang-format on
+
+const SpeciesTable GOAT_TABLE = {"goat", s_actions, {}, s_body, {}, {}};
+
+CGoat::CGoat(int centreX, int centreY, bool left)
+{
+	species       = SPECIES_GOAT;
+	bodyRadius    = 24;
+	weight        = 5;
+	requiredStage = 9;
+	speedX        = 2;
+	mayTurn       = true;
+
+	LoadCall("goat_bleat.ogg");
+	BuildActions(GOAT_TABLE);
+	PlaceAt(centreX, centreY, left);
+}

@@ -1,0 +1,43 @@
+// Lion: roars at a ball that is too small.
+#include "animals/plain_species.h"
+
+#include "animals/species.h"
+#include "animals/species_numbers.h"
+
+// clang-format off
+static const ActionRow s_actions[] = {
+	// name              kind          frames  weight role       then options
+	{ "stand",           ACTION_IDLE,  ".",        0, ROLE_NONE, "" },
+	{ "standblink",      ACTION_BLINK, ".",        2, ROLE_NONE, "" },
+	{ "look",            ACTION_LOOK,  "0-4",      1, ROLE_NONE, "" },
+	{ "roar",            ACTION_BUMP,  "0-7",      0, ROLE_BUMP, "",
+	  { .sounds = {"tiger_roar.ogg"}, .soundDelay = 3 } },
+	{ "walk",            ACTION_WALK,  "0-11",     2, ROLE_NONE, "" },
+	{ "lowerhead",       ACTION_EXTRA, "0-5",      1, ROLE_NONE, "",
+	  { .hold = Between(60, 120), .exitFrames = EXIT_BACK } },
+	{ "sniff:lowerhead", ACTION_EXTRA, "0-5",      1, ROLE_NONE, "",
+	  { .hold = Between(20, 50), .exitFrames = EXIT_BACK } },
+};
+
+static const BodyPoint s_body[] = {
+	{ 8, 37 }, { 16, 40 }, { 25, 41 }, { 34, 42 }, { 42, 42 },
+	{ 51, 41 }, { 60, 40 }, { 68, 37 }, { 74, 30 }, { 68, 24 },
+	{ 60, 21 }, { 51, 20 }, { 42, 19 }, { 34, 19 }, { 25, 20 },
+	{ 16, 21 }, { 8, 24 }, { 2, 30 },
+};
+// clang-format on
+
+const SpeciesTable LION_TABLE = {"lion", s_actions, {}, s_body, {}, {}};
+
+CLion::CLion(int centreX, int centreY, bool left)
+{
+	species       = SPECIES_LION;
+	bodyRadius    = 38;
+	weight        = 11;
+	requiredStage = 15;
+	speedX        = 1.5f;
+	mayTurn       = true;
+
+	BuildActions(LION_TABLE);
+	PlaceAt(centreX, centreY, left);
+}

@@ -1,0 +1,43 @@
+// Tiger: roars at a ball that is too small.
+#include "animals/plain_species.h"
+
+#include "animals/species.h"
+#include "animals/species_numbers.h"
+
+// clang-format off
+static const ActionRow s_actions[] = {
+	// name              kind          frames  weight role       then options
+	{ "stand",           ACTION_IDLE,  ".",        0, ROLE_NONE, "" },
+	{ "standblink",      ACTION_BLINK, ".",        2, ROLE_NONE, "" },
+	{ "look",            ACTION_LOOK,  "0-4",      1, ROLE_NONE, "" },
+	{ "roar",            ACTION_BUMP,  "0-7",      0, ROLE_BUMP, "",
+	  { .sounds = {"tiger_roar.ogg"}, .soundDelay = 3 } },
+	{ "walk",            ACTION_WALK,  "0-11",     2, ROLE_NONE, "" },
+	{ "lowerhead",       ACTION_EXTRA, "0-5",      1, ROLE_NONE, "",
+	  { .hold = Between(60, 120), .exitFrames = EXIT_BACK } },
+	{ "sniff:lowerhead", ACTION_EXTRA, "0-5",      1, ROLE_NONE, "",
+	  { .hold = Between(20, 50), .exitFrames = EXIT_BACK } },
+};
+
+static const BodyPoint s_body[] = {
+	{ 8, 33 }, { 16, 36 }, { 25, 37 }, { 34, 38 }, { 42, 38 },
+	{ 51, 37 }, { 60, 36 }, { 68, 33 }, { 74, 26 }, { 68, 20 },
+	{ 60, 17 }, { 51, 16 }, { 42, 15 }, { 34, 15 }, { 25, 16 },
+	{ 16, 17 }, { 8, 20 }, { 2, 26 },
+};
+// clang-format on
+
+const SpeciesTable TIGER_TABLE = {"tiger", s_actions, {}, s_body, {}, {}};
+
+CTiger::CTiger(int centreX, int centreY, bool left)
+{
+	species       = SPECIES_TIGER;
+	bodyRadius    = 38;
+	weight        = 11;
+	requiredStage = 15;
+	speedX        = 1.5f;
+	mayTurn       = true;
+
+	BuildActions(TIGER_TABLE);
+	PlaceAt(centreX, centreY, left);
+}

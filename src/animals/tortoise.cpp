@@ -1,0 +1,38 @@
+// Tortoise: slow; draws itself in when the ball is too small.
+#include "animals/plain_species.h"
+
+#include "animals/species.h"
+#include "animals/species_numbers.h"
+
+// clang-format off
+static const ActionRow s_actions[] = {
+	// name         kind          frames  weight role       then options
+	{ "stand",      ACTION_IDLE,  ".",        0, ROLE_NONE, "" },
+	{ "standblink", ACTION_BLINK, ".",        2, ROLE_NONE, "" },
+	{ "look",       ACTION_LOOK,  "0-4",      1, ROLE_NONE, "" },
+	{ "stunned",    ACTION_BUMP,  "0-8",      0, ROLE_BUMP, "",
+	  { .hold = Between(45, 90), .exitFrames = "9-11" } },
+	{ "walk",       ACTION_WALK,  "0-12",     2, ROLE_NONE, "" },
+};
+
+static const BodyPoint s_body[] = {
+	{ 8, 21 }, { 17, 23 }, { 26, 24 }, { 35, 23 }, { 44, 21 },
+	{ 50, 16 }, { 44, 11 }, { 35, 9 }, { 26, 8 }, { 17, 9 },
+	{ 8, 11 }, { 2, 16 },
+};
+// clang-format on
+
+const SpeciesTable TORTOISE_TABLE = {"tortoise", s_actions, {}, s_body, {}, {}};
+
+CTortoise::CTortoise(int centreX, int centreY, bool left)
+{
+	species       = SPECIES_TORTOISE;
+	bodyRadius    = 26;
+	weight        = 9;
+	requiredStage = 15;
+	speedX        = 0.5f;
+	mayTurn       = true;
+
+	BuildActions(TORTOISE_TABLE);
+	PlaceAt(centreX, centreY, left);
+}

@@ -1,0 +1,41 @@
+// Zebra: grazes and whinnies where it stands.
+#include "animals/plain_species.h"
+
+#include "animals/species.h"
+#include "animals/species_numbers.h"
+
+// clang-format off
+static const ActionRow s_actions[] = {
+	// name              kind          frames  weight role       then     options
+	{ "stand",           ACTION_IDLE,  ".",        0, ROLE_NONE, "" },
+	{ "standblink",      ACTION_BLINK, ".",        2, ROLE_NONE, "" },
+	{ "look",            ACTION_LOOK,  "0-4",      1, ROLE_NONE, "" },
+	{ "raise:lowerhead", ACTION_GRAZE, "5-0",      0, ROLE_NONE, "" },
+	{ "graze",           ACTION_GRAZE, "0-3",      0, ROLE_NONE, "raise",
+	  { .time = Between(60, 120) } },
+	{ "lower:lowerhead", ACTION_GRAZE, "0-5",      1, ROLE_NONE, "graze" },
+	{ "whinny",          ACTION_EXTRA, "0-7",      1, ROLE_NONE, "" },
+	{ "stunned",         ACTION_BUMP,  "0-6",      0, ROLE_BUMP, "" },
+};
+
+static const BodyPoint s_body[] = {
+	{ 8, 43 }, { 17, 45 }, { 26, 46 }, { 34, 46 }, { 43, 45 },
+	{ 52, 43 }, { 58, 37 }, { 52, 31 }, { 43, 29 }, { 34, 28 },
+	{ 26, 28 }, { 17, 29 }, { 8, 31 }, { 2, 37 },
+};
+// clang-format on
+
+const SpeciesTable ZEBRA_TABLE = {"zebra", s_actions, {}, s_body, {}, {}};
+
+CZebra::CZebra(int centreX, int centreY, bool left)
+{
+	species       = SPECIES_ZEBRA;
+	bodyRadius    = 30;
+	weight        = 7;
+	requiredStage = 14;
+	speedX        = 2;
+	mayTurn       = true;
+
+	BuildActions(ZEBRA_TABLE);
+	PlaceAt(centreX, centreY, left);
+}
