@@ -141,6 +141,7 @@ CElementAnimal* NewAnimal(int species, int centreX, int centreY, bool left);
 extern const SpeciesTable SHEEP_TABLE;
 extern const SpeciesTable TURTLE_TABLE;
 extern const SpeciesTable MONKEY_TABLE;
+extern const SpeciesTable EAGLE_TABLE;
 extern const SpeciesTable CHIPMUNK_TABLE;
 extern const SpeciesTable PIG_TABLE;
 extern const SpeciesTable FROG_TABLE;
@@ -200,5 +201,6 @@ extern const SpeciesTable KOALA_TABLE;
 extern const SpeciesTable SWAN_TABLE;
 extern const SpeciesTable GOOSE_TABLE;
 extern const SpeciesTable ELEPHANT_TABLE;
+extern const SpeciesTable ALIEN_TABLE;
 extern const SpeciesTable UNICORN_TABLE;
 extern const SpeciesTable BUTTERFLY_TABLES[3]; // colours A, B, C

@@ -1,6 +1,7 @@
 // The species that stand for themselves, a line each.
 #include "animals/species.h"
 
+#include "animals/alien.h"
 #include "animals/bears.h"
 #include "animals/butterfly.h"
 #include "animals/camel.h"
@@ -9,6 +10,7 @@
 #include "animals/dog.h"
 #include "animals/duck.h"
 #include "animals/duckling.h"
+#include "animals/eagle.h"
 #include "animals/flamingo.h"
 #include "animals/frog.h"
 #include "animals/hoppers.h"
@@ -37,12 +39,21 @@ static CElementAnimal* MakeLoneDuckling(int centreX, int centreY, bool)
 	return new CDuckling(centreX, centreY, nullptr);
 }
 
+// Without its saucer it starts on its feet.
+static CElementAnimal* MakeLoneAlien(int centreX, int centreY, bool)
+{
+	CAlien* alien = new CAlien(centreX, centreY, false);
+	alien->StandAtOnce();
+	return alien;
+}
+
 // clang-format off
 static const SpeciesEntry s_species[] = {
 	// number                maker                table
 	{ SPECIES_SHEEP,          MAKE(CSheep),        &SHEEP_TABLE },
 	{ SPECIES_TURTLE,         MAKE(CTurtle),       &TURTLE_TABLE },
 	{ SPECIES_MONKEY,         MAKE(CMonkey),       &MONKEY_TABLE },
+	{ SPECIES_EAGLE,          MAKE(CEagle),        &EAGLE_TABLE },
 	{ SPECIES_CHIPMUNK,       MAKE(CChipmunk),     &CHIPMUNK_TABLE },
 	{ SPECIES_PIG,            MAKE(CPig),          &PIG_TABLE },
 	{ SPECIES_FROG,           MAKE(CFrog),         &FROG_TABLE },
@@ -102,6 +113,7 @@ static const SpeciesEntry s_species[] = {
 	{ SPECIES_SWAN,           MAKE(CSwan),         &SWAN_TABLE },
 	{ SPECIES_GOOSE,          MAKE(CGoose),        &GOOSE_TABLE },
 	{ SPECIES_ELEPHANT,       MAKE(CElephant),     &ELEPHANT_TABLE },
+	{ SPECIES_ALIEN,          MakeLoneAlien,       &ALIEN_TABLE },
 	{ SPECIES_UNICORN,        MAKE(CUnicorn),      &UNICORN_TABLE },
 	{ SPECIES_BUTTERFLY_A,    MAKE(CButterfly),    &BUTTERFLY_TABLES[0] }, // a colour by chance
 	{ SPECIES_BUTTERFLY_B,    MAKE(CButterfly),    &BUTTERFLY_TABLES[1] },

@@ -1,6 +1,7 @@
 // The paddle's tools and troubles: fans, destructo ray, the stun of a shot.
 #include "field/paddle_parts.h"
 
+#include "animals/ufo.h"
 #include "field/background.h"
 #include "field/ball.h"
 #include "field/breakable.h"
@@ -90,6 +91,7 @@ bool CPaddle::FireDestructo()
 	g_display->StartShake();
 	CElementBreakable::BlastAll(BodyCentre(), BLAST_RADIUS);
 	CTree::BlastAll();
+	CUFO::BlastAll(BodyCentre(), BLAST_RADIUS);
 	if (ammo < 1 && g_sidebar)
 		g_sidebar->ClearDestructoTimer();
 	parts->rayPrompt.Restart();

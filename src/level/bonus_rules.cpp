@@ -2,28 +2,18 @@
 #include "level/bonus_rules.h"
 
 #include "animals/animal.h"
+#include "animals/stampede.h"
 #include "field/ball.h"
 #include "field/crate.h"
 #include "field/fence.h"
 #include "field/sidebar.h"
 #include "frame/debug.h"
+#include "level/tally_rules.h"
 #include "media/display.h"
 #include "screens/game.h"
 #include "screens/level_timer.h"
 
 #include <initializer_list>
-
-enum TallyType {
-	TALLY_REGULAR    = 0, // 1 to 4 are the variants of dodgeball
-	TALLY_SPEEDBALL  = 5,
-	TALLY_TIGHT_SPOT = 6,
-	TALLY_ORDER      = 7,
-	TALLY_STAMPEDE   = 8,
-	TALLY_HARVEST    = 9, // pinball too
-	TALLY_DEMOLITION = 10,
-	TALLY_COIN       = 11,
-	TALLY_EGG        = 12,
-};
 
 int ObstaclesStanding()
 {
@@ -43,6 +33,8 @@ bool LevelHasEnded(const CControllerGame& game)
 	if (game.timer->IsUp())
 		return true;
 	if (rules.isDemolition && ObstaclesStanding() == 0)
+		return true;
+	if (rules.isStampede && CElementStampede::StampedeFinished())
 		return true;
 	if (rules.isBonusLevel && BallIsLost(game))
 		return true;
@@ -82,7 +74,8 @@ void FillTally(const CControllerGame& game, ChildRequest& request)
 	else if (rules.isDemolition)
 		SetTally(request, TALLY_DEMOLITION, {ObstaclesStanding(), start, secondsLeft});
 	else if (rules.isStampede)
-		SetTally(request, TALLY_STAMPEDE, {CElementAnimal::CountToRescue(), start});
+		SetTally(request, TALLY_STAMPEDE,
+		         {CElementAnimal::CountToRescue(), start, CElementStampede::stampedeSpecies});
 	else if (rules.isSpeedball)
 		SetTally(request, TALLY_SPEEDBALL, {secondsLeft, start});
 	else if (rules.isCoin)

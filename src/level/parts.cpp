@@ -1,6 +1,7 @@
 // The words in which level routines speak: thin names over the constructors.
 #include "level/parts.h"
 
+#include "animals/stampede.h"
 #include "screens/game.h"
 
 static const int VALUE_BY_SKILL = -1;
@@ -100,6 +101,12 @@ CFence* FenceRing(int x, int y, std::initializer_list<FenceStep> steps)
 	if (last)
 		CloseFence(last, first);
 	return last;
+}
+
+void Herd(int species, std::initializer_list<HerdMember> members)
+{
+	for (const HerdMember& member : members)
+		new CElementStampede(species, member.x, member.y, member.speed);
 }
 
 CElementPoint* Coin(float x, float y)

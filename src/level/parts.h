@@ -41,5 +41,12 @@ CFence* FenceChain(int x, int y, std::initializer_list<FenceStep> steps);
 // The same, with the last section tied to the first post.
 CFence* FenceRing(int x, int y, std::initializer_list<FenceStep> steps);
 
+// The animals of a stampede, all of one species: where each starts, and how fast it runs.
+struct HerdMember {
+	int x, y;
+	float speed; // pixels per frame, negative to the left
+};
+void Herd(int species, std::initializer_list<HerdMember> members);
+
 // A coin that lies still.
 CElementPoint* Coin(float x, float y);
