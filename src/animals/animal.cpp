@@ -139,16 +139,18 @@ void CElementAnimal::StartSprite(CSprite* sprite)
 
 void CElementAnimal::PutSprite(int depth)
 {
-	int dx = 0, dy = 0;
+	Shift shift = ShiftOf(currentSprite);
+	currentSprite->SetPos(static_cast<int>(x) + shift.dx,
+	                      static_cast<int>(y) + shift.dy - static_cast<int>(z), depth);
+}
+
+CElementAnimal::Shift CElementAnimal::ShiftOf(const CSprite* sprite) const
+{
 	for (const Shift& shift : shifts) {
-		if (shift.sprite == currentSprite) {
-			dx = shift.dx;
-			dy = shift.dy;
-			break;
-		}
+		if (shift.sprite == sprite)
+			return shift;
 	}
-	currentSprite->SetPos(static_cast<int>(x) + dx, static_cast<int>(y) + dy - static_cast<int>(z),
-	                      depth);
+	return {};
 }
 
 int CElementAnimal::GroundDepth() const
@@ -224,6 +226,17 @@ bool CElementAnimal::TryCapture()
 		callSound->Play();
 	currentAction = bumpAction;
 	return false;
+}
+
+bool CElementAnimal::CaptureOrBump()
+{
+	if (!CanCapture()) {
+		OnBump();
+		return false;
+	}
+	ReportCapture(species);
+	LeaveField();
+	return true;
 }
 
 void CElementAnimal::ReportCapture(int reportedSpecies)

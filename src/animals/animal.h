@@ -12,6 +12,7 @@ class CCrate;
 class CFence;
 class CSound;
 class CTree;
+struct BirdPage;
 struct Perch;
 struct PictureRow;
 struct SpeciesTable;
@@ -41,8 +42,11 @@ public:
 	virtual void ChooseLandingSpot();
 	virtual void FaceLandingSpot();
 	virtual void UpdateRescueHint();
-	virtual void BeginFlight(); // the crate or fence it stands on was hit
-	virtual void RebuildBody(); // the outline of its facing; none while perched
+	virtual void BeginFlight();   // the crate or fence it stands on was hit
+	virtual bool HeadsUp() const; // in the air: y decreases
+	virtual void HeadUp(bool up); // the same, changed by landing spot and edges
+	virtual void EndFlight();     // it has come down, at its place
+	virtual void RebuildBody();   // the outline of its facing; none while perched
 
 	void AdvanceBehaviour();
 	bool CanCapture() const;
@@ -126,17 +130,27 @@ protected:
 	void PlaceOn(CFence* fence, bool left);
 	void StartLife(bool left); // the first action; part of those that place
 
-	void NoteUpset();                    // once an animal, for a dodgeball level
-	void FlyAsPerchingBird();            // the flight numbers that all perching birds share
+	bool CaptureOrBump();     // for those that bump in a machine of their own
+	void NoteUpset();         // once an animal, for a dodgeball level
+	void FlyAsPerchingBird(); // the flight numbers that all perching birds share
+	void TakeBirdNumbers(const BirdPage& page);
+	void TakeOff();                      // what every flight begins with
 	CSprite* OwnSprite(CSprite* sprite); // deleted with the animal
 	CSound* OwnSound(CSound* sound);
 	AnimalAction* ActionOfKind(int kind) const; // the first; null without one
 	// Pictures that a class shows by itself, beside those of its actions.
 	CSprite* LoadPicture(const PictureRow& row, bool left);
+	// All of the table's, by row and facing; for a species with a machine of its own.
+	void LoadPictures(const SpeciesTable& newTable, CSprite* (*sprites)[2]);
 	// Shows a sprite from its first frame on in place of the current one.
 	void StartSprite(CSprite* sprite);
 	void PutSprite(int depth); // the current one, at its place
-	int GroundDepth() const;   // of one that stands on the ground: the y of its feet
+	struct Shift {
+		CSprite* sprite = nullptr; // not owned
+		int dx = 0, dy = 0;
+	};
+	Shift ShiftOf(const CSprite* sprite) const; // against x, y; zero for the standing picture
+	int GroundDepth() const; // of one that stands on the ground: the y of its feet
 
 private:
 	bool SpriteFits() const;
@@ -171,10 +185,6 @@ private:
 	void SitOn(const Perch& perch, int offsetLeft, int offsetRight, int offsetY, bool left);
 	bool RoomAmongAnimals(float centreX, float centreY) const;
 
-	struct Shift {
-		CSprite* sprite; // not owned
-		int dx, dy;
-	};
 	std::vector<Shift> shifts;               // of sprites that do not stand at x, y itself
 	std::vector<ObstaclePoint*> sparePoints; // owned; of bodies cleared, for the next one
 	std::vector<CSprite*> ownedSprites;

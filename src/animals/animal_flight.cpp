@@ -1,5 +1,5 @@
 // Flight: taking off from a perch, flying about, and coming down.
-#include "animals/animal.h"
+#include "animals/bird_page.h"
 
 #include "field/ball_physics.h"
 #include "field/crate.h"
@@ -28,16 +28,47 @@ void CElementAnimal::FlyAsPerchingBird()
 	flightMargin  = 5;
 }
 
+void CElementAnimal::TakeBirdNumbers(const BirdPage& page)
+{
+	species          = page.species;
+	bodyRadius       = page.bodyRadius;
+	weight           = page.weight;
+	requiredStage    = page.requiredStage;
+	crateOffsetLeft  = page.onCrate.left;
+	crateOffsetRight = page.onCrate.right;
+	crateOffsetY     = page.onCrate.y;
+	fenceOffsetLeft  = page.onFence.left;
+	fenceOffsetRight = page.onFence.right;
+	fenceOffsetY     = page.onFence.y;
+	FlyAsPerchingBird();
+}
+
+bool CElementAnimal::HeadsUp() const
+{
+	return facingUp;
+}
+
+void CElementAnimal::HeadUp(bool up)
+{
+	facingUp = up;
+}
+
 void CElementAnimal::BeginFlight()
 {
 	if (!flightAction)
 		return;
+	TakeOff();
+	currentAction = flightAction;
+	facingUp      = true;
+}
+
+void CElementAnimal::TakeOff()
+{
 	if (callSound && !flying && (Rand() & 3) == 0)
 		callSound->Play();
-	currentAction = flightAction;
-	flying = rising = facingUp = true;
-	descending                 = false;
-	flightCounter              = RandomWhole(SHORTEST_FLIGHT, LONGEST_FLIGHT);
+	flying = rising = true;
+	descending      = false;
+	flightCounter   = RandomWhole(SHORTEST_FLIGHT, LONGEST_FLIGHT);
 }
 
 void CElementAnimal::UpdateFlight()
@@ -52,7 +83,7 @@ void CElementAnimal::UpdateFlight()
 		FaceLandingSpot();
 	}
 	x += facingLeft ? -flightSpeedX : flightSpeedX;
-	y += facingUp ? -flightSpeedY : flightSpeedY;
+	y += HeadsUp() ? -flightSpeedY : flightSpeedY;
 	if (rising && z < flightCeiling)
 		z += flightSpeedZ;
 	else
@@ -94,9 +125,14 @@ void CElementAnimal::Arrive()
 	y      = landY;
 	z      = landZ;
 	flying = rising = descending = false;
-	currentAction                = idleAction;
 	if (landsOnGround)
 		perched = false;
+	EndFlight();
+}
+
+void CElementAnimal::EndFlight()
+{
+	currentAction = idleAction;
 }
 
 void CElementAnimal::KeepInFlightMargin()
@@ -109,16 +145,16 @@ void CElementAnimal::KeepInFlightMargin()
 		facingLeft = true;
 	else if (facingLeft && x < margin)
 		facingLeft = false;
-	if (!facingUp && bottom + margin > FLIGHT_LOWEST)
-		facingUp = true;
-	else if (facingUp && top < margin)
-		facingUp = false;
+	if (!HeadsUp() && bottom + margin > FLIGHT_LOWEST)
+		HeadUp(true);
+	else if (HeadsUp() && top < margin)
+		HeadUp(false);
 }
 
 void CElementAnimal::FaceLandingSpot()
 {
 	facingLeft = landX < x;
-	facingUp   = landY < y;
+	HeadUp(landY < y);
 }
 
 void CElementAnimal::ChooseLandingSpot()

@@ -21,8 +21,8 @@ static const PictureRow s_pictures[CChipmunk::PICTURES] = {
 };
 
 static const BodyPoint s_body[] = {
-	{ 9, 17 }, { 17, 18 }, { 25, 17 }, { 32, 13 }, { 25, 9 },
-	{ 17, 8 }, { 9, 9 }, { 2, 13 },
+	{ 4, 14 }, { 9, 18 }, { 15, 18 }, { 21, 18 }, { 27, 14 },
+	{ 21, 11 }, { 15, 10 }, { 9, 11 },
 };
 // clang-format on
 
@@ -38,11 +38,7 @@ CChipmunk::CChipmunk(int centreX, int centreY, bool left)
 	speedY        = 1;
 
 	squeak = OwnSound(new CSound("mouse_squeak.ogg"));
-	table  = &CHIPMUNK_TABLE;
-	for (int i = 0; i < PICTURES; i++) {
-		for (bool side : {true, false})
-			sprites[i][side] = LoadPicture(s_pictures[i], side);
-	}
+	LoadPictures(CHIPMUNK_TABLE, sprites);
 	facingLeft = left;
 	Enter(STAND, STANDING);
 	PlaceAt(centreX, centreY, left);
@@ -140,12 +136,5 @@ int CChipmunk::OnBump()
 
 bool CChipmunk::OnBallHit()
 {
-	if (!CanCapture()) {
-		if (g_ball)
-			OnBump();
-		return false;
-	}
-	ReportCapture(species);
-	LeaveField();
-	return true;
+	return g_ball && CaptureOrBump();
 }

@@ -79,11 +79,7 @@ void CMonkey::Build()
 	screeches[0] = OwnSound(new CSound("monkey_screech1.ogg"));
 	screeches[1] = OwnSound(new CSound("monkey_screech2.ogg"));
 
-	table = &MONKEY_TABLE;
-	for (int i = 0; i < PICTURES; i++) {
-		for (bool left : {true, false})
-			sprites[i][left] = LoadPicture(s_pictures[i], left);
-	}
+	LoadPictures(MONKEY_TABLE, sprites);
 	for (CSprite* sprite : sprites[CLIMBING])
 		sprite->behindFoliage = true; // before the trunk, behind the leaves
 }
@@ -296,15 +292,7 @@ int CMonkey::OnBump()
 
 bool CMonkey::OnBallHit()
 {
-	if (state == FALL || !g_ball)
-		return false;
-	if (CanCapture()) {
-		ReportCapture(species);
-		LeaveField();
-		return true;
-	}
-	OnBump();
-	return false;
+	return state != FALL && g_ball && CaptureOrBump();
 }
 
 void CMonkey::Place()

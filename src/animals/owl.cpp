@@ -1,64 +1,33 @@
 // Owl: sits, and turns its head both ways.
-#include "animals/perching_birds.h"
+#include "animals/bird_page.h"
 
-#include "animals/species.h"
 #include "animals/species_numbers.h"
 
 // clang-format off
 static const ActionRow s_actions[] = {
-	// name      kind           frames         weight role         then       options
-	{ "perch",   ACTION_IDLE,   ".",               0, ROLE_NONE,   "" },
-	{ "lookA",   ACTION_LOOK,   "0-4",             1, ROLE_NONE,   "",        { .perched = true } },
-	{ "lookB",   ACTION_LOOK,   "0-4",             1, ROLE_NONE,   "",        { .perched = true } },
-	{ "stunned", ACTION_BUMP,   "0-5",             1, ROLE_BUMP,   "",        { .perched = true } },
-	{ "flapup",  ACTION_FLIGHT, "0-5",             0, ROLE_FLIGHT, "glideup",
-	  { .time = Between(30, 120) } },
-	{ "glideup", ACTION_FLIGHT, "0*4 1 2*4 1",     0, ROLE_NONE,   "flapup" },
+	{ "perch", ACTION_IDLE, ".", 0, ROLE_NONE, "" },
+	BirdLook("lookA", "0-4"),
+	BirdLook("lookB", "0-4"),
+	BirdBump("stunned", "0-5"),
+	BirdFlap("0-7"),
+	BirdGlide("0*4 1 2*4 1"),
 };
 
 static const BodyPoint s_body[] = {
-	{ 6, 17 }, { 12, 18 }, { 18, 17 }, { 22, 14 }, { 18, 11 },
-	{ 12, 10 }, { 6, 11 }, { 2, 14 },
+	{ 2, 20 }, { 4, 25 }, { 10, 26 }, { 15, 25 }, { 17, 19 },
+	{ 15, 14 }, { 9, 13 }, { 4, 14 },
 };
 // clang-format on
 
 const SpeciesTable OWL_TABLE = {"owl", s_actions, {}, s_body, {}, {}};
 
-COwl::COwl(int centreX, int centreY, bool left)
-{
-	Build();
-	PlaceAt(centreX, centreY, left);
-}
-
-COwl::COwl(CCrate* crate, bool left)
-{
-	Build();
-	PlaceOn(crate, left);
-}
-
-COwl::COwl(CFence* fence, bool left)
-{
-	Build();
-	PlaceOn(fence, left);
-}
-
-void COwl::Build()
-{
-	species       = SPECIES_OWL;
-	bodyRadius    = 12;
-	weight        = 3;
-	requiredStage = 6;
-	speedX        = 1.5f;
-	mayTurn       = true;
-
-	crateOffsetLeft  = 3;
-	crateOffsetRight = 0;
-	crateOffsetY     = -1;
-	fenceOffsetLeft  = 3;
-	fenceOffsetRight = -1;
-	fenceOffsetY     = 6;
-	FlyAsPerchingBird();
-
-	LoadCall("owl_hoot.ogg");
-	BuildActions(OWL_TABLE);
-}
+const BirdPage OWL_PAGE = {
+    .species       = SPECIES_OWL,
+    .bodyRadius    = 12,
+    .weight        = 3,
+    .requiredStage = 6,
+    .calls         = {"owl_hoot.ogg"},
+    .onCrate       = {3, 0, -1},
+    .onFence       = {3, -1, 6},
+    .table         = &OWL_TABLE,
+};

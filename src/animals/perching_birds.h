@@ -1,54 +1,55 @@
 // The birds that sit on crates and fences until their perch is hit.
 #pragma once
 
-#include "animals/animal.h"
+#include "animals/bird_page.h"
 
 // The ball reaches them only on open ground. Flight, perches and the outline that they have only
-// there are the base's; a bird gives its actions and where it sits on a perch.
-#define PERCHING_BIRD(className)                                                                   \
-	class className : public CElementAnimal                                                        \
+// there are the base's; a bird is a page of numbers and actions, in the file of its name.
+class CPerchingBird : public CElementAnimal
+{
+public:
+	void Update() override;
+
+protected:
+	CPerchingBird(const BirdPage& page, int centreX, int centreY, bool left); // on open ground
+	CPerchingBird(const BirdPage& page, CCrate* crate, bool left);
+	CPerchingBird(const BirdPage& page, CFence* fence, bool left);
+
+private:
+	void Build(const BirdPage& page);
+
+	CSound* calls[2] = {nullptr, nullptr}; // owned as all sounds of an animal; of two-voiced birds
+};
+
+#define PERCHING_BIRD(className, page)                                                             \
+	class className : public CPerchingBird                                                         \
 	{                                                                                              \
 	public:                                                                                        \
-		className(int centreX, int centreY, bool left); /* on open ground */                       \
-		className(CCrate* crate, bool left);                                                       \
-		className(CFence* fence, bool left);                                                       \
+		className(int centreX, int centreY, bool left)                                             \
+		    : CPerchingBird(page, centreX, centreY, left)                                          \
+		{                                                                                          \
+		}                                                                                          \
+		className(CCrate* crate, bool left) : CPerchingBird(page, crate, left) {}                  \
+		className(CFence* fence, bool left) : CPerchingBird(page, fence, left) {}                  \
 		const char* ClassName() const override { return #className; }                              \
-                                                                                                   \
-	private:                                                                                       \
-		void Build();                                                                              \
 	}
 
-PERCHING_BIRD(CBlueBird);
-PERCHING_BIRD(COwl);
-PERCHING_BIRD(CPigeon);
-PERCHING_BIRD(CVulture);
+PERCHING_BIRD(CBlueBird, BLUEBIRD_PAGE);
+PERCHING_BIRD(CCrow, CROW_PAGE);
+PERCHING_BIRD(COwl, OWL_PAGE);
+PERCHING_BIRD(CPigeon, PIGEON_PAGE);
+PERCHING_BIRD(CVulture, VULTURE_PAGE);
 
 #undef PERCHING_BIRD
 
-// Sits on crates only, but lands on a fence as well.
-class CSnowyOwl : public CElementAnimal
+// Is placed on crates only, but lands on a fence as well.
+class CSnowyOwl : public CPerchingBird
 {
 public:
-	CSnowyOwl(int centreX, int centreY, bool left); // on open ground
-	CSnowyOwl(CCrate* crate, bool left);
+	CSnowyOwl(int centreX, int centreY, bool left)
+	    : CPerchingBird(SNOWY_OWL_PAGE, centreX, centreY, left)
+	{
+	}
+	CSnowyOwl(CCrate* crate, bool left) : CPerchingBird(SNOWY_OWL_PAGE, crate, left) {}
 	const char* ClassName() const override { return "CSnowyOwl"; }
-
-private:
-	void Build();
-};
-
-// Has two caws: each frame a coin says which would be heard next.
-class CCrow : public CElementAnimal
-{
-public:
-	CCrow(int centreX, int centreY, bool left); // on open ground
-	CCrow(CCrate* crate, bool left);
-	CCrow(CFence* fence, bool left);
-	void Update() override;
-	const char* ClassName() const override { return "CCrow"; }
-
-private:
-	void Build();
-
-	CSound* caws[2]; // owned as all sounds of an animal
 };

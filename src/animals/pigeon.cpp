@@ -1,71 +1,36 @@
 // Pigeon: pecks and coos.
-#include "animals/perching_birds.h"
+#include "animals/bird_page.h"
 
-#include "animals/species.h"
 #include "animals/species_numbers.h"
 
 // clang-format off
 static const ActionRow s_actions[] = {
-	// name         kind           frames         weight role         then       options
-	{ "stand",      ACTION_IDLE,   ".",               0, ROLE_NONE,   "" },
-	{ "look",       ACTION_LOOK,   "0-3",             1, ROLE_NONE,   "",
-	  { .perched = true } },
-	{ "other:look", ACTION_LOOK,   "4-5",             1, ROLE_NONE,   "",
-	  { .perched = true } },
-	{ "ruffle",     ACTION_BUMP,   "0-5",             1, ROLE_BUMP,   "",
-	  { .perched = true } },
-	{ "walk",       ACTION_WALK,   "0-7",             2, ROLE_NONE,   "",
-	  { .time = UNTIL_END, .repeats = Between(2, 6) } },
-	{ "flapup",     ACTION_FLIGHT, "0-5",             0, ROLE_FLIGHT, "glideup",
-	  { .time = Between(30, 120) } },
-	{ "glideup",    ACTION_FLIGHT, "0*4 1 2*4 1",     0, ROLE_NONE,   "flapup" },
-	{ "lowerhead",  ACTION_EXTRA,  "0-2",             1, ROLE_NONE,   "",
+	{ "stand", ACTION_IDLE, ".", 0, ROLE_NONE, "" },
+	BirdLook("look", "0-3"),
+	BirdLook("other:look", "4-5"),
+	BirdBump("ruffle", "0-5"),
+	BirdWalk("0-7 0-7", 1),
+	BirdFlap("0-7", 1),
+	BirdGlide("0*4 1 2*4 1"),
+	{ "lowerhead", ACTION_EXTRA, "0-2", 1, ROLE_NONE, "",
 	  { .time = Between(8, 15), .hold = Between(30, 60), .exitFrames = EXIT_BACK, .once = true } },
 };
 
 static const BodyPoint s_body[] = {
-	{ 6, 13 }, { 12, 14 }, { 18, 13 }, { 22, 10 }, { 18, 7 },
-	{ 12, 6 }, { 6, 7 }, { 2, 10 },
+	{ 3, 20 }, { 7, 25 }, { 14, 26 }, { 21, 25 }, { 25, 20 },
+	{ 21, 15 }, { 13, 14 }, { 7, 15 },
 };
 // clang-format on
 
 const SpeciesTable PIGEON_TABLE = {"pigeon", s_actions, {}, s_body, {}, {}};
 
-CPigeon::CPigeon(int centreX, int centreY, bool left)
-{
-	Build();
-	PlaceAt(centreX, centreY, left);
-}
-
-CPigeon::CPigeon(CCrate* crate, bool left)
-{
-	Build();
-	PlaceOn(crate, left);
-}
-
-CPigeon::CPigeon(CFence* fence, bool left)
-{
-	Build();
-	PlaceOn(fence, left);
-}
-
-void CPigeon::Build()
-{
-	species       = SPECIES_PIGEON;
-	bodyRadius    = 12;
-	weight        = 3;
-	requiredStage = 6;
-	speedX        = 1.5f;
-	mayTurn       = true;
-
-	crateOffsetLeft  = 4;
-	crateOffsetRight = -1;
-	crateOffsetY     = -3;
-	fenceOffsetLeft  = 4;
-	fenceOffsetRight = -1;
-	fenceOffsetY     = 5;
-	FlyAsPerchingBird();
-
-	LoadCall("pigeon_coo.ogg");
-	BuildActions(PIGEON_TABLE);
-}
+const BirdPage PIGEON_PAGE = {
+    .species       = SPECIES_PIGEON,
+    .bodyRadius    = 12,
+    .weight        = 3,
+    .requiredStage = 6,
+    .calls         = {"pigeon_coo.ogg"},
+    .onCrate       = {4, -1, -3},
+    .onFence       = {4, -1, 5},
+    .table         = &PIGEON_TABLE,
+};

@@ -1,35 +1,15 @@
 // Seal: drags itself along, barks and smiles.
 #include "animals/plain_species.h"
 
-#include "animals/species.h"
+#include "animals/flipper_actions.h"
 #include "animals/species_numbers.h"
 
-// clang-format off
-static const ActionRow s_actions[] = {
-	// name         kind           frames  weight role       then              options
-	{ "stand",      ACTION_IDLE,   ".",        0, ROLE_NONE, "" },
-	{ "standblink", ACTION_BLINK,  ".",        2, ROLE_NONE, "" },
-	{ "back:look",  ACTION_LOOK,   "4-0",      0, ROLE_NONE, "",
-	  { .hold = NO_HOLD, .exitFrames = NO_EXIT } },
-	{ "lookblink",  ACTION_EXTRA2, ".",        0, ROLE_NONE, "back/looksmile",
-	  { .time = Frames(4) } },
-	{ "looksmile",  ACTION_EXTRA3, ".",        0, ROLE_NONE, "back/lookblink",
-	  { .time = Between(15, 60) } },
-	{ "look",       ACTION_LOOK,   "0-4",      1, ROLE_NONE, "looksmile",
-	  { .hold = Between(15, 60), .exitFrames = NO_EXIT } },
-	{ "bark",       ACTION_BUMP,   "0-5",      0, ROLE_BUMP, "",
-	  { .sounds = {"seal_bark.ogg"}, .soundDelay = 2 } },
-	{ "move",       ACTION_WALK,   "0-11",     2, ROLE_NONE, "" },
-	{ "smile",      ACTION_EXTRA,  "0-3",      1, ROLE_NONE, "smileblink",
-	  { .hold = Between(20, 60) } },
-	{ "smileblink", ACTION_EXTRA,  ".",        0, ROLE_NONE, "",
-	  { .time = Frames(4) } },
-};
+static constexpr std::array s_actions = FlipperActions("seal_bark.ogg");
 
+// clang-format off
 static const BodyPoint s_body[] = {
-	{ 8, 20 }, { 16, 22 }, { 24, 22 }, { 32, 22 }, { 40, 20 },
-	{ 46, 15 }, { 40, 10 }, { 32, 8 }, { 24, 8 }, { 16, 8 },
-	{ 8, 10 }, { 2, 15 },
+	{ 8, 22 }, { 15, 25 }, { 24, 26 }, { 33, 26 }, { 42, 25 },
+	{ 42, 19 }, { 33, 18 }, { 24, 17 }, { 15, 18 },
 };
 // clang-format on
 

@@ -22,8 +22,8 @@ static const PictureRow s_pictures[CSheep::PICTURES] = {
 };
 
 static const BodyPoint s_body[] = {
-	{ 4, 21 }, { 7, 25 }, { 15, 27 }, { 26, 27 }, { 34, 25 },
-	{ 37, 21 }, { 34, 17 }, { 26, 15 }, { 15, 15 }, { 7, 17 },
+	{ 4, 22 }, { 9, 29 }, { 18, 30 }, { 27, 30 }, { 34, 26 },
+	{ 34, 18 }, { 26, 15 }, { 18, 15 }, { 9, 16 },
 };
 // clang-format on
 
@@ -41,11 +41,7 @@ CSheep::CSheep(int centreX, int centreY, bool left)
 	baas[1] = OwnSound(new CSound("sheep_baa2.ogg"));
 	baas[2] = OwnSound(new CSound("sheep_baa3.ogg"));
 
-	table = &SHEEP_TABLE;
-	for (int i = 0; i < PICTURES; i++) {
-		sprites[i][true]  = LoadPicture(s_pictures[i], true);
-		sprites[i][false] = LoadPicture(s_pictures[i], false);
-	}
+	LoadPictures(SHEEP_TABLE, sprites);
 	facingLeft = left;
 	Enter(STAND, STANDING);
 	PlaceAt(centreX, centreY, left);
@@ -189,11 +185,5 @@ int CSheep::OnBump()
 
 bool CSheep::OnBallHit()
 {
-	if (CanCapture()) {
-		ReportCapture(species);
-		LeaveField();
-		return true;
-	}
-	OnBump();
-	return false;
+	return CaptureOrBump();
 }

@@ -375,6 +375,15 @@ CSprite* CElementAnimal::LoadPicture(const PictureRow& row, bool left)
 	return sprite;
 }
 
+void CElementAnimal::LoadPictures(const SpeciesTable& newTable, CSprite* (*sprites)[2])
+{
+	table = &newTable;
+	for (size_t i = 0; i < newTable.pictures.size(); i++) {
+		for (bool left : {true, false})
+			sprites[i][left] = LoadPicture(newTable.pictures[i], left);
+	}
+}
+
 void CElementAnimal::LoadCall(const std::string& soundName)
 {
 	callSound = OwnSound(new CSound(soundName));

@@ -18,8 +18,8 @@ static const PictureRow s_pictures[CTurtle::PICTURES] = {
 };
 
 static const BodyPoint s_body[] = {
-	{ 6, 11 }, { 12, 12 }, { 18, 11 }, { 22, 8 }, { 18, 5 },
-	{ 12, 4 }, { 6, 5 }, { 2, 8 },
+	{ 4, 9 }, { 9, 11 }, { 14, 11 }, { 20, 11 }, { 25, 9 },
+	{ 20, 6 }, { 14, 6 }, { 9, 6 },
 };
 // clang-format on
 
@@ -34,11 +34,7 @@ CTurtle::CTurtle(int centreX, int centreY, bool left)
 	speedX        = 0.4f;
 
 	appear = OwnSound(new CSound("turtle_appear.ogg"));
-	table  = &TURTLE_TABLE;
-	for (int i = 0; i < PICTURES; i++) {
-		for (bool side : {true, false})
-			sprites[i][side] = LoadPicture(s_pictures[i], side);
-	}
+	LoadPictures(TURTLE_TABLE, sprites);
 	facingLeft = left;
 	Enter(STAND, STANDING);
 	PlaceAt(centreX, centreY, left);
@@ -113,12 +109,5 @@ int CTurtle::OnBump()
 
 bool CTurtle::OnBallHit()
 {
-	if (!CanCapture()) {
-		if (g_ball)
-			OnBump();
-		return false;
-	}
-	ReportCapture(species);
-	LeaveField();
-	return true;
+	return g_ball && CaptureOrBump();
 }

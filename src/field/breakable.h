@@ -23,7 +23,7 @@ public:
 // What a bird can perch on: the place on top of a crate or a fence section.
 struct Perch {
 	int x = 0; // middle of its top
-	int y = 0; // top line at ground level: the picture's top plus z
+	int y = 0; // where feet stand, as if at ground level: z higher on the screen
 	int z = 0; // height above the ground
 };
 

@@ -253,9 +253,10 @@ void CCrate::SpillContents()
 	}
 }
 
+// On the upper face: what is left of the picture above one layer.
 Perch CCrate::PerchPlace() const
 {
-	return {CentreX(), static_cast<int>(y), static_cast<int>(z)};
+	return {CentreX(), static_cast<int>(y) + base->Height() - layerHeight, static_cast<int>(z)};
 }
 
 // Free to land on: on top of its stack, nobody there, and room for offset pixels at either side.

@@ -14,7 +14,8 @@
 #include <cstdlib>
 #include <string>
 
-static const int BLAST_MARGIN    = 2; // pixels that a section is open to a blast beyond its rails
+static const int RAIL_RAISE      = 11; // pixels that a rail is drawn above its outline
+static const int BLAST_MARGIN    = 2;  // pixels that a section is open to a blast beyond its rails
 static const int LAST_EXPLOSION  = 20;
 static const int EXPLOSION_ABOVE = 2; // depths above the rails
 
@@ -144,7 +145,12 @@ void CFence::BreakDown(bool silent)
 
 Perch CFence::PerchPlace() const
 {
-	return {CentreX(), static_cast<int>(y), 0};
+	const RailStyle& rails = s_styles[style];
+	int middle[2];
+	for (int i = 0; i < 2; i++)
+		middle[i] = (rails.railStart[i].y + rails.railEnd[i].y) / 2;
+	int top = std::min(middle[0], middle[1]) - RAIL_RAISE;
+	return {CentreX(), static_cast<int>(y) + top, 0};
 }
 
 bool CFence::IsFree(int offset) const
