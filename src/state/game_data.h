@@ -127,9 +127,12 @@ public:
 	int PercentComplete() const;
 	bool IsIslandOpen(int i) const;
 	void OpenIsland(int i);
+	static int IslandOpenedBy(int level); // the island that finishing it opens, 0 for none
 	int TotalScore() const;
 	void ApplyTotalScore();        // hands it to the side panel's score
 	int FirstLevelNotDone() const; // this run; 1 when all are done
+	// As the map prints it, such as "12-A"; -1 means the current level, what is below 1 level 1.
+	std::string LevelLabel(int level) const;
 
 	// Level bookkeeping.
 	void OnLevelStart(int level);

@@ -59,6 +59,14 @@ void CGameData::OpenIsland(int i)
 		islandOpen[i] = true;
 }
 
+int CGameData::IslandOpenedBy(int level)
+{
+	for (int island = 1; island < ISLAND_COUNT; island++)
+		if (OPENING_LEVEL[island] == level)
+			return island;
+	return 0;
+}
+
 void CGameData::DeriveIslands()
 {
 	islandOpen[0] = true;

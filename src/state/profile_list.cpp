@@ -119,14 +119,15 @@ void CGameData::EnterProfile(int number, const std::string& wantedName,
 	scoreNameByNumber[number]   = scoreName;
 }
 
-// The name itself, or one like it when it is empty or taken: two profiles under one name would
-// leave one of them out of reach.
+// The name itself, or one like it when it is empty, blank or taken: a name that cannot be seen, or
+// two profiles under one, would leave a profile out of reach.
 std::string CGameData::FreeName(const std::string& wanted) const
 {
 	std::string base = wanted.substr(0, NAME_BYTES - 1);
-	if (!base.empty() && !profileNumberByName.count(base))
+	bool blank       = base.find_first_not_of(' ') == std::string::npos;
+	if (!blank && !profileNumberByName.count(base))
 		return base;
-	if (base.empty())
+	if (blank)
 		base = "PLAYER";
 	base.resize(std::min(base.size(), NAME_BYTES - 1 - ENDING_BYTES));
 	for (int i = 1;; i++) {

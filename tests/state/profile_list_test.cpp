@@ -178,6 +178,20 @@ TEST_F(StateTest, DamagedNamesAndNumbersAreHandled)
 	}
 }
 
+// It would be a row that nobody can see.
+TEST_F(StateTest, NameOfBlanksIsReplaced)
+{
+	std::vector<unsigned char> bytes(HEADER_BYTES + 2 * RECORD_BYTES);
+	for (unsigned i = 0; i < 2; i++) {
+		const size_t record = HEADER_BYTES + i * RECORD_BYTES;
+		PutInt(bytes, record, i);
+		std::fill_n(bytes.begin() + static_cast<long>(record) + 4, 3 + i, ' ');
+	}
+	WriteSavedBytes(ListPath(), bytes);
+	data->LoadProfileList();
+	EXPECT_EQ((std::vector<std::string>{"PLAYER 1", "PLAYER 2"}), Names(*data));
+}
+
 TEST_F(StateTest, TakenNameIsNotTakenTwice)
 {
 	data->CreateProfile("PLAYER 1");
