@@ -20,6 +20,7 @@ public:
 	virtual void OnMouseMove(int x, int y)                           = 0; // pixels of the surface
 	virtual void OnMouseButton(bool left, bool right, bool released) = 0;
 	virtual void OnGuiEvent(int id, int value); // a widget of this screen has fired
+	virtual void OnFocusLost() {}               // the window no longer gets the keys
 	virtual const char* Name() const = 0;       // class name, for the driver and the debug overlay
 
 	// Makes this the current controller. Without a parent Enter runs too, unless quiet.

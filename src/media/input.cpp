@@ -36,6 +36,8 @@ void CInput::HandleEvent(CController* controller, const SDL_Event& event)
 	case SDL_ACTIVEEVENT:
 		if (event.active.gain == 1)
 			g_display->Present(false);
+		else if (event.active.state & (SDL_APPINPUTFOCUS | SDL_APPACTIVE))
+			controller->OnFocusLost();
 		break;
 	case SDL_KEYDOWN:
 		HandleKeyDown(controller, event.key.keysym);
@@ -62,7 +64,7 @@ void CInput::HandleKeyDown(CController* controller, const SDL_keysym& key)
 		swallowReturn = false;
 		if (key.mod & ALT_KEYS) {
 			g_display->ToggleFullscreen();
-			swallowReturn = true;
+			swallowReturn = swallowAlt = true;
 			return;
 		}
 	}
@@ -76,6 +78,10 @@ void CInput::HandleKeyUp(CController* controller, const SDL_keysym& key)
 		swallowReturn              = false;
 		if (belongsToToggle)
 			return;
+	}
+	if (swallowAlt && (key.sym == SDLK_LALT || key.sym == SDLK_RALT)) {
+		swallowAlt = false;
+		return;
 	}
 	controller->OnKey(true, key.sym);
 }

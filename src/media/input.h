@@ -29,6 +29,7 @@ private:
 	void HandleMotion(CController* controller, const SDL_MouseMotionEvent& motion);
 
 	bool swallowReturn   = false; // the Return of a mode toggle comes up without its Alt
+	bool swallowAlt      = false; // and its Alt would count as a key of its own
 	bool dropFirstMotion = false; // the first motion after a grab can carry the absolute place
 };
 

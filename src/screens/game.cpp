@@ -321,13 +321,26 @@ void CControllerGame::OnKey(bool released, int key)
 	} else if (key == g_gameData->GetKey(KEY_RIGHT_BUTTON)) {
 		OnMouseButton(false, true, released);
 	} else if (released) {
-		storedCursorX = CursorX();
-		storedCursorY = CursorY();
-		ChildRequest request;
-		request.kind = CHILD_PAUSE;
-		if (!OpenChild(request) && key == SDLK_ESCAPE)
-			SetResult(RESULT_RETURN); // without a pause menu this is the way out of a level
+		Pause();
 	}
+}
+
+// Keys that were held come up while another screen is open, and nobody would hear of it.
+void CControllerGame::Pause()
+{
+	storedCursorX = CursorX();
+	storedCursorY = CursorY();
+	leftKeyHeld = rightKeyHeld = false;
+	leftHeld = leftHeldLastFrame = leftTapped = false;
+	ChildRequest request;
+	request.kind = CHILD_PAUSE;
+	OpenChild(request);
+}
+
+void CControllerGame::OnFocusLost()
+{
+	if (active && !levelOver && !firstFrame)
+		Pause();
 }
 
 void CControllerGame::OnMouseMove(int x, int)

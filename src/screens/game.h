@@ -45,6 +45,7 @@ public:
 	void OnKey(bool released, int key) override;
 	void OnMouseMove(int x, int y) override;
 	void OnMouseButton(bool left, bool right, bool released) override;
+	void OnFocusLost() override; // pauses
 	const char* Name() const override { return "CControllerGame"; }
 
 	void LoadLevel(int number); // -1 takes the next number; one without a routine becomes level 1
@@ -119,6 +120,7 @@ private:
 	void ReplayLevel();
 	void LeaveAfterGameOver();
 	bool QuizDue() const;
+	void Pause();
 
 	// input as the game sees it
 	bool leftHeld = false, rightHeld = false, leftHeldLastFrame = false;

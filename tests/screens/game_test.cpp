@@ -29,6 +29,7 @@ protected:
 		SDL_Event event;
 		while (SDL_PollEvent(&event))
 			;
+		g_gameData->SetInstructionsSeen();
 		game = std::make_unique<CControllerGame>(1);
 		game->Activate(nullptr, true);
 	}
@@ -158,12 +159,16 @@ TEST_F(GameTest, RescueEndsTheLevelAndSavesIt)
 	EXPECT_TRUE(g_gameData->IsLevelDoneEver(0));
 	game->OnMouseMove(10, 10);
 	int frames = 0;
-	while (game->result == RESULT_NONE && frames++ < 300)
+	while (g_currentController == game.get() && frames++ < 300)
 		game->Update();
 	EXPECT_GT(game->paddle->GetX(), SCREEN_WIDTH);
+	ASSERT_STREQ("CControllerLevelTally", g_currentController->Name());
+	g_currentController->SetResult(RESULT_RETURN);
+	ControllerChainTick();
+	Frames(2);
 	EXPECT_EQ(RESULT_RETURN, game->result);
 	EXPECT_EQ(1, game->lastFinishedLevel);
-	EXPECT_EQ(500, g_gameData->profile.levels[0].score);
+	EXPECT_EQ(500 + 25000, g_gameData->profile.levels[0].score) << "with the bonus for its time";
 	EXPECT_EQ(2, g_gameData->profile.levels[0].rescues);
 	EXPECT_EQ(2, g_gameData->FirstLevelNotDone());
 }
