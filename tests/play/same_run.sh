@@ -6,6 +6,9 @@ trap 'rm -rf "$work"' EXIT
 cat > "$work/script" <<'END'
 until screen = CControllerMain within 900
 level 1
+until screen = CControllerInstructionsSmall within 30
+wait 2
+key return
 bot on
 wait 1500
 dump field.txt
