@@ -6,6 +6,7 @@
 
 static const float STANCE     = .55f;              // part of a stride that a foot stays down
 static const float LONG_SHANK = 8;                 // legs longer than this show their joint
+static const float FLYING_FAN = 2.5f;              // spread of the tail in the air
 static const float REST_TURN = 14, LOOK_TURN = 46; // degrees
 static const float OWL_REST_TURN = 42, OWL_LOOK_TURN = 42; // an owl faces the viewer at rest
 static const uint32_t COMB_RED = 0xe0342c;
@@ -27,13 +28,17 @@ private:
 	void MakeMaterials();
 	int BodyMaterial();
 	int HeadMaterial();
+	int NeckMaterial();
 	Vec3 OnBody(float x, float y, float z) const { return body + bodyAxes * Vec3{x, y, z}; }
 	void AddBody();
+	void AddRuff();
 	void AddTail();
+	void AddTailEnd(Vec3 root, Vec3 reach, float tip, float fan, int feathers);
 	Vec3 NeckOffset(Vec3 base) const;
 	void PlaceHead();
 	void AddNeck(Vec3 base, Vec3 offset);
 	void AddHead();
+	void AddBrows();
 	void AddFace();
 	void AddCrown();
 	void AddBeak();
@@ -51,8 +56,8 @@ private:
 	Vec3 body, neckBase;
 	Mat3 bodyAxes;
 	HeadFrame head;
-	int coat = 0, wing = 0, wingTip = 0, bar = 0, headCoat = 0, neck = 0, beak = 0, leg = 0,
-	    tail = 0;
+	int coat = 0, wing = 0, wingTip = 0, bar = 0, trail = 0, headCoat = 0, neck = 0, beak = 0,
+	    leg = 0, tail = 0;
 };
 
 void BirdBuilder::Build()
@@ -64,7 +69,7 @@ void BirdBuilder::Build()
 	AddTail();
 	AddHead();
 	for (int side : {-1, 1}) {
-		AddWing(model, bird, pose, {body, bodyAxes, wing, wingTip, bar, side});
+		AddWing(model, bird, pose, {body, bodyAxes, wing, wingTip, bar, trail, side});
 		AddLeg(side);
 	}
 }
@@ -73,7 +78,7 @@ void BirdBuilder::PlaceBody()
 {
 	walking      = pose.stride >= 0;
 	phase        = walking ? pose.stride : 0;
-	float height = pose.flying ? 0 : bird.legLength * (1 - .55f * pose.tuck) + bird.bodyRadius + 1;
+	float height = bird.legLength * (1 - .55f * pose.tuck) + bird.bodyRadius + 1;
 	float step   = walking ? std::fabs(std::sin(phase * 2 * PI)) * .6f : 0;
 	body         = {0, height - pose.squash + pose.rise + step, 0};
 	bodyAxes     = TurnZ(pose.flying ? std::min(.10f, bird.tilt) : bird.tilt);
@@ -93,8 +98,10 @@ int BirdBuilder::BodyMaterial()
 			    c = Mix(c, HexColour(b.breast), Smoothstep(from - .08f, from + .08f, x + .15f * y));
 		    }
 		    if (b.spots > 0) {
-			    Vec3 p = {l.x * .62f + 4, l.y * 1.1f + 9, std::fabs(l.z) * .8f + 2};
-			    c      = Mix(c, HexColour(b.fleck), Smoothstep(b.spots, b.spots + .06f, Noise(p)));
+			    Vec3 p   = {l.x * .62f, l.y * 1.1f, std::fabs(l.z) * .8f};
+			    p        = p * (1 / b.fleckSize) + Vec3{4, 9, 2};
+			    float on = b.bellySpots ? Smoothstep(.15f, -.25f, side) : 1;
+			    c = Mix(c, HexColour(b.fleck), on * Smoothstep(b.spots, b.spots + .06f, Noise(p)));
 		    }
 		    return c;
 	    },
@@ -118,6 +125,21 @@ int BirdBuilder::HeadMaterial()
 	    gloss);
 }
 
+// A throat may change its colour from top to bottom.
+int BirdBuilder::NeckMaterial()
+{
+	Colour top = HexColour(bird.neck ? bird.neck : bird.head ? bird.head : bird.body);
+	if (!bird.sheen)
+		return model.Plain(top);
+	float low = neckBase.y, high = head.centre.y - bird.headRadius * .5f;
+	return model.Painted(
+	    [top, low, high, foot = HexColour(bird.sheen)](const SurfacePoint& at) {
+		    return Mix(foot, top,
+		               Smoothstep(Mix(low, high, .35f), Mix(low, high, .65f), at.position.y));
+	    },
+	    .45f);
+}
+
 void BirdBuilder::MakeMaterials()
 {
 	coat     = BodyMaterial();
@@ -125,7 +147,8 @@ void BirdBuilder::MakeMaterials()
 	wing     = model.Plain(bird.wing);
 	wingTip  = model.Plain(bird.wingTip);
 	bar      = model.Plain(bird.wingBar ? bird.wingBar : bird.wing, .3f);
-	neck     = model.Plain(bird.neck ? bird.neck : bird.head ? bird.head : bird.body);
+	trail    = bird.trail ? model.Plain(bird.trail) : wing;
+	neck     = NeckMaterial();
 	beak     = model.Plain(bird.beak, .5f);
 	leg      = model.Plain(bird.leg, .2f);
 	tail     = model.Plain(bird.tail ? bird.tail : bird.wing);
@@ -136,14 +159,22 @@ void BirdBuilder::AddBody()
 	float puff = 1 + pose.ruffle * .18f;
 	model.Ellipsoid(body, Vec3{bird.bodyLength, bird.bodyRadius, bird.bodyRadius * .95f} * puff,
 	                bodyAxes, coat, 0);
-	if (bird.ruffCollar <= 0)
-		return;
-	int collar = model.Plain(bird.collar);
-	for (int i = 0; i < 10; i++) {
-		float a = i * 2 * PI / 10, c = bird.ruffCollar;
-		model.Ball(neckBase +
-		               Vec3{.3f + std::cos(a) * c, c * .4f + .3f * std::cos(a), std::sin(a) * c},
-		           c * .48f, collar, .7f);
+	if (bird.ruffCollar > 0)
+		AddRuff();
+}
+
+// A ring of tufts about the root of the neck.
+void BirdBuilder::AddRuff()
+{
+	int collar   = model.Plain(bird.collar);
+	Vec3 neckWay = head.centre - neckBase, along = Normalize(neckWay);
+	Vec3 aside = {0, 0, 1}, across = Normalize(Cross(aside, along));
+	Vec3 centre = neckBase + neckWay * .16f;
+	float c     = bird.ruffCollar;
+	for (int i = 0; i < 12; i++) {
+		float a = i * 2 * PI / 12;
+		model.Ball(centre + (across * std::cos(a) + aside * std::sin(a)) * c, c * .42f, collar,
+		           .7f);
 	}
 }
 
@@ -151,13 +182,20 @@ void BirdBuilder::AddTail()
 {
 	float length = bird.tailLength, width = bird.tailWidth;
 	float swing = (walking ? std::sin(phase * 2 * PI) * 1.1f : 0) + pose.tailSwing * 2;
-	float fan   = pose.flying ? 1.7f : 1 + pose.ruffle;
-	Vec3 root   = OnBody(-bird.bodyLength * .75f, .2f, 0);
-	float up    = bird.tailUp + pose.tailRaise * length * .7f;
-	for (int s = -1; s <= 1; s++) {
-		Vec3 end = root + bodyAxes * Vec3{-length, up, s * width * .55f * fan + swing};
-		model.RoundCone(root, end, bird.bodyRadius * bird.tailThick, width * .42f, tail, .8f);
+	float fan   = pose.flying ? FLYING_FAN : 1 + pose.ruffle;
+	float tip   = width * (pose.flying ? .32f : .42f);
+	if (pose.flying)
+		length *= 1.15f;
+	Vec3 root    = OnBody(-bird.bodyLength * .75f, .2f, 0);
+	float up     = bird.tailUp + pose.tailRaise * length * .7f;
+	int feathers = pose.flying ? 2 : 1; // at either side of the middle one
+	for (int s = -feathers; s <= feathers; s++) {
+		float aside = s * width * .55f * fan / feathers + swing;
+		Vec3 end    = root + bodyAxes * Vec3{-length * (1 - .04f * s * s), up, aside};
+		model.RoundCone(root, end, bird.bodyRadius * bird.tailThick, tip, tail, .8f);
 	}
+	if (bird.tailEnd)
+		AddTailEnd(root, {-length, up, swing}, tip, fan, feathers);
 	if (bird.tailCurl > 0) {
 		int dark  = model.Plain(bird.wingTip, .2f);
 		float c   = bird.tailCurl;
@@ -174,6 +212,19 @@ void BirdBuilder::AddTail()
 	}
 }
 
+// A band across the last third.
+void BirdBuilder::AddTailEnd(Vec3 root, Vec3 reach, float tip, float fan, int feathers)
+{
+	int band    = model.Plain(bird.tailEnd);
+	float width = bird.tailWidth;
+	for (int s = -feathers; s <= feathers; s++) {
+		float aside = s * width * .55f * fan / feathers;
+		Vec3 end = root + bodyAxes * Vec3{reach.x * (1 - .04f * s * s), reach.y, reach.z + aside};
+		model.RoundCone(Mix(root, end, .72f), end + bodyAxes * Vec3{-.15f, 0, 0}, tip * 1.1f,
+		                tip * 1.07f, band, .2f);
+	}
+}
+
 Vec3 BirdBuilder::NeckOffset(Vec3 base) const
 {
 	float r     = bird.headRadius;
@@ -186,21 +237,24 @@ Vec3 BirdBuilder::NeckOffset(Vec3 base) const
 	// Far enough forward to clear the breast, down until the beak meets the ground.
 	float reach  = Length(offset);
 	float floorY = r * 1.1f - base.y + pose.rise;
-	Vec3 down    = {std::max(reach * .75f, r * 1.2f), std::max(floorY, -reach * .95f), 0};
-	Vec3 mixed   = Mix(offset, down, pose.headDown);
-	return Normalize(mixed) * Mix(reach, Length(down), pose.headDown);
+	float bury   = std::max(0.f, pose.headDown - 1) * r * 4; // beyond 1 it goes into the ground
+	Vec3 down    = {std::max(reach * .75f, r * 1.2f), std::max(floorY, -reach * .95f) - bury, 0};
+	float way    = std::min(pose.headDown, 1.f);
+	Vec3 mixed   = Mix(offset, down, way);
+	return Normalize(mixed) * Mix(reach, Length(down), way);
 }
 
 // The head nods against each step.
 void BirdBuilder::PlaceHead()
 {
 	neckBase    = OnBody(bird.bodyLength * .55f, bird.bodyRadius * .35f, 0);
-	float nod   = walking ? std::sin(phase * 4 * PI) * .8f : 0;
+	float nod   = walking ? std::sin(phase * 4 * PI) * bird.nod : 0;
 	float turn  = bird.owlFace ? pose.look * OWL_LOOK_TURN + OWL_REST_TURN
 	                           : pose.look * LOOK_TURN + REST_TURN;
 	head.centre = neckBase + NeckOffset(neckBase) + Vec3{nod, 0, 0};
 	head.axes   = TurnY(Radians(turn) * view.TowardViewer()) *
-	            TurnZ(-pose.headDown * .9f + pose.headTip) * TurnX(-pose.sway * .6f);
+	            TurnZ(-pose.headDown * .9f + pose.headTip) *
+	            TurnX(-pose.sway * .6f + pose.headRoll * view.NearSide());
 }
 
 void BirdBuilder::AddNeck(Vec3 base, Vec3 offset)
@@ -232,7 +286,25 @@ void BirdBuilder::AddHead()
 	AddCrown();
 	AddBeak();
 	uint32_t around = bird.face && bird.owlFace ? bird.face : bird.head ? bird.head : bird.body;
+	if (bird.lid)
+		around = bird.lid;
 	AddEyes(model, head, {r, r, r}, bird.eye, HexColour(around), headCoat, view, pose);
+	if (bird.brow > 0)
+		AddBrows();
+}
+
+// Ridges that slope down to the beak and cut the eyes' upper edge.
+void BirdBuilder::AddBrows()
+{
+	float r = bird.headRadius, e = bird.eye.radius, lift = pose.wideEyes * e * 1.4f;
+	for (int s : {-1, 1}) {
+		float aside = r * bird.eye.aside;
+		Vec3 inner  = head.Point(r * bird.eye.forward + e * .72f, r * bird.eye.up + e * .60f + lift,
+		                         s * (aside - e * .55f));
+		Vec3 outer = head.Point(r * bird.eye.forward + e * .05f, r * bird.eye.up + e * 1.12f + lift,
+		                        s * (aside + e * .50f));
+		model.RoundCone(inner, outer, e * .42f * bird.brow, e * .50f * bird.brow, headCoat, .3f);
+	}
 }
 
 void BirdBuilder::AddFace()
@@ -244,8 +316,10 @@ void BirdBuilder::AddFace()
 			model.Ellipsoid(head.Point(r * .60f, r * .06f, s * r * .42f),
 			                {r * .46f, r * .66f, r * .56f}, head.axes, face, .4f);
 	} else if (bird.face) {
-		model.Ellipsoid(head.Point(r * .35f, -r * .25f, 0), {r * .75f, r * .62f, r * .8f},
-		                head.axes, model.Plain(bird.face), .5f);
+		float back = bird.faceBack;
+		model.Ellipsoid(head.Point(r * (.35f - back), -r * (.25f + .2f * back), 0),
+		                {r * (.75f - .12f * back), r * .62f, r * (.8f + .55f * back)}, head.axes,
+		                model.Plain(bird.face), .5f);
 	}
 }
 
@@ -253,11 +327,11 @@ void BirdBuilder::AddFace()
 void BirdBuilder::AddCrown()
 {
 	float r = bird.headRadius, c = bird.crest, up = pose.ruffle;
-	for (int i = 0; c > 0 && i < 3; i++)
-		model.RoundCone(head.Point(-r * (.10f + .25f * i), r * .72f, 0),
-		                head.Point(-r * (.55f + .30f * i) - c * .5f,
-		                           r * .85f + c * (.8f - .25f * i + up * .4f), 0),
-		                r * .26f, .4f, headCoat, .6f);
+	for (int i = 0; c > 0 && i < 4; i++)
+		model.RoundCone(head.Point(r * (.22f - .26f * i), r * .70f, 0),
+		                head.Point(-r * (.15f + .28f * i) - c * (.45f + .12f * i),
+		                           r * .85f + c * (.95f - .27f * i + up * .4f), 0),
+		                r * .24f, .35f, headCoat, .5f);
 	for (int i = 0; bird.tuft > 0 && i < 3; i++) {
 		Vec3 root = head.Point(-r * .05f - r * .16f * i, r * .92f, 0);
 		model.RoundCone(root,
@@ -291,6 +365,9 @@ void BirdBuilder::AddFlatBeak()
 	                beak, .3f);
 	model.Ellipsoid(root + upper * Vec3{l * .86f, -.1f, 0}, {l * .30f, w * .42f, w * 1.22f}, upper,
 	                beak, .6f);
+	if (bird.knob > 0)
+		model.Ball(root + upper * Vec3{l * .10f, w * .55f, 0}, bird.knob,
+		           model.Plain(bird.knobColour, .3f), .4f);
 	if (open <= 0)
 		return;
 	Mat3 lower = head.axes * TurnZ(-.55f * open);
@@ -344,7 +421,8 @@ Vec3 BirdBuilder::FootOf(int side, Vec3 joint) const
 {
 	float length = bird.legLength;
 	if (pose.flying)
-		return joint + Vec3{-length * .8f - 1, -length * .12f - .6f, 0};
+		return joint + Mix(Vec3{-length * .8f - 1, -length * .12f - .6f, 0},
+		                   Vec3{length * .45f, -length * .85f - .6f, 0}, pose.legDrop);
 	Vec3 foot = {body.x + .3f, .7f + pose.rise, joint.z};
 	if (walking) {
 		float t     = std::fmod(phase + (side > 0 ? .5f : 0), 1.f);
@@ -360,6 +438,8 @@ Vec3 BirdBuilder::FootOf(int side, Vec3 joint) const
 	foot = Mix(foot, joint + Vec3{1.2f, -length * .42f - 1, 0}, pose.tuck);
 	if (side == (int)view.NearSide())
 		foot = Mix(foot, joint + Vec3{1.5f, -length * .42f, 0}, pose.raisePaw);
+	else
+		foot.z *= 1 - .8f * pose.raisePaw; // the other one bears all the weight
 	return foot;
 }
 
@@ -370,9 +450,14 @@ void BirdBuilder::AddLeg(int side)
 	if (bird.tilt > 1) // upright birds stand on the end of their egg
 		joint.y = body.y - bird.bodyLength * .78f;
 	Vec3 foot = FootOf(side, joint);
+	if (bird.thigh > 0)
+		model.RoundCone(joint + Vec3{.2f, bird.thigh * .5f, 0}, Mix(joint, foot, .55f), bird.thigh,
+		                std::max(bird.thigh * .55f, radius), coat, .8f);
 	if (bird.legLength > LONG_SHANK) { // the joint bends back
-		Vec3 ankle = KneeOf(joint, foot, (bird.legLength + 1) * 1.03f, {-1, 0, 0});
-		model.RoundCone(joint, ankle, radius * 1.25f, radius * .95f, leg, .5f);
+		float bones = (bird.legLength + 1) * 1.03f * (1 + bird.legSlack);
+		Vec3 ankle  = KneeOf(joint, foot, bones, {-1, 0, 0});
+		float thick = std::max(bird.drumstick, radius * 1.25f);
+		model.RoundCone(joint, ankle, thick, radius * .95f, leg, .5f);
 		model.RoundCone(ankle, foot, radius * 1.05f, radius * .9f, leg, .2f);
 	} else {
 		model.RoundCone(joint, foot, radius * 1.15f, radius, leg, .3f);
@@ -381,7 +466,7 @@ void BirdBuilder::AddLeg(int side)
 		float size = .6f + .4f * radius;
 		model.Ellipsoid(foot + Vec3{1.4f * size, -.1f, 0}, {2.5f * size, .75f, 2.0f * size}, Mat3(),
 		                leg, .3f);
-	} else if (!pose.flying) {
+	} else if (!pose.flying || pose.legDrop > .5f) {
 		for (int k = -1; k <= 1; k++)
 			model.RoundCone(foot, foot + Vec3{1.8f + radius * .6f, -.1f, k * 1.3f}, radius * .85f,
 			                radius * .6f, leg, .2f);

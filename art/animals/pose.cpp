@@ -27,5 +27,6 @@ static float TurnOf(Heading heading, float sideTurn)
 View ViewOf(const Pose& pose, float sideTurn, float elevation)
 {
 	float turn = TurnOf(pose.heading, sideTurn) - pose.turnAway;
-	return {pose.left, Radians(pose.left ? 180 + turn : -turn), Radians(elevation)};
+	return {pose.left, Radians(pose.left ? 180 + turn : -turn),
+	        Radians(elevation + pose.seenAbove)};
 }

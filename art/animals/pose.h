@@ -14,6 +14,7 @@ struct Pose {
 	bool left       = true;
 	Heading heading = Heading::Side;
 	float turnAway  = 0;    // degrees that the whole figure is turned from the viewer
+	float seenAbove = 0;    // degrees that it is seen from higher up than figures on the ground
 	bool shadow     = true; // stands on the ground and darkens it
 
 	// head
@@ -22,6 +23,8 @@ struct Pose {
 	float wideEyes  = 0; // surprised; .4 is much
 	float headDown  = 0; // 1: mouth at the ground
 	float headTip   = 0; // angle, nose up
+	float headRoll  = 0; // angle, toward the shoulder on the viewer's side
+	float headLevel = 0; // 1: the head doesn't follow the body's pitch
 	float neckReach = 0; // 1: stretched up and forward, negative: drawn in
 	float mouth     = 0; // 1 open
 	float chew      = 0; // -1..1, muzzle aside
@@ -42,6 +45,8 @@ struct Pose {
 	float fit        = 0;  // phase of a tantrum, above 0
 	float armsUp     = 0;  // arms, or wings lifted on the ground
 	float climb      = -1; // phase of climbing; negative: doesn't climb
+	float hop        = -1; // phase of a hop, 0 crouched, 7/8 landed; negative: doesn't hop
+	float breath     = 0;  // throat swollen
 	float tailSwing  = 0;
 	float tailRaise  = 0;
 
@@ -49,11 +54,14 @@ struct Pose {
 	bool flying   = false;
 	float flap    = 0; // 1 up, -1 down
 	float flapTip = 0; // the outer wing, which lags behind
+	float fold    = 0; // 1: the outer wing drawn back, as on the upstroke
+	float legDrop = 0; // 1: legs let down for landing
 	float ruffle  = 0; // feathers puffed up
 
 	// the whole figure
 	float pitch = 0; // angle, nose up
 	float sway  = 0; // angle, leaning to its side
+	float lift  = 0; // length that it is raised when all turns are done
 };
 using Poses = std::vector<Pose>;
 

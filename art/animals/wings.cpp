@@ -12,6 +12,7 @@ struct WingBuilder {
 
 	Vec3 OnBody(float x, float y, float z) const { return place.body + place.axes * Vec3{x, y, z}; }
 	void AddFolded();
+	void AddBands(Vec3 centre, const Mat3& axes);
 	void AddFlipper();
 	void AddSpread();
 	void AddFeathers(Vec3 root, Vec3 wrist, Vec3 inner, Vec3 outer);
@@ -20,11 +21,11 @@ struct WingBuilder {
 void WingBuilder::AddFolded()
 {
 	float puff = pose.ruffle, length = bird.wingLength, width = bird.wingWidth;
-	float out  = bird.bodyRadius * (.84f + puff * .35f);
-	float lift = pose.armsUp * bird.bodyRadius * .45f;
-	Vec3 centre =
-	    OnBody(-bird.bodyLength * .12f, bird.bodyRadius * .18f + lift, s * (out + lift * .4f));
-	Mat3 axes = place.axes * TurnX(s * (.1f + puff * .5f + pose.armsUp * .6f));
+	float out   = bird.bodyRadius * (.84f + puff * .35f);
+	float lift  = pose.armsUp * bird.bodyRadius * .45f;
+	Vec3 centre = OnBody(-bird.bodyLength * .12f, bird.bodyRadius * bird.shoulder + lift,
+	                     s * (out + lift * .4f));
+	Mat3 axes   = place.axes * TurnX(s * (.1f + puff * .5f + pose.armsUp * .6f));
 	model.Ellipsoid(centre, {length * .78f, width * .95f, bird.bodyRadius * .30f}, axes, place.wing,
 	                .5f);
 	// Long feathers, so that the tip reads as feathers and not as a flipper.
@@ -34,10 +35,24 @@ void WingBuilder::AddFolded()
 		Vec3 to = centre + axes * Vec3{-length * (1.08f - .16f * i), -width * (.18f + .30f * i), 0};
 		model.RoundCone(from, to, width * .36f, width * .20f, place.tip, .25f);
 	}
+	if (bird.bands > 0)
+		return AddBands(centre, axes);
 	if (bird.wingBar)
 		model.Ellipsoid(
 		    centre + axes * Vec3{-length * .30f, -width * .42f, bird.bodyRadius * .20f * s},
 		    {length * .24f, width * .30f, bird.bodyRadius * .16f}, axes, place.bar, .1f);
+}
+
+// Stripes from the upper to the lower edge of the folded wing.
+void WingBuilder::AddBands(Vec3 centre, const Mat3& axes)
+{
+	float length = bird.wingLength, width = bird.wingWidth, out = bird.bodyRadius * .17f * s;
+	for (int i = 0; i < bird.bands; i++) {
+		float x = -length * (.12f + .30f * i);
+		model.RoundCone(centre + axes * Vec3{x + length * .05f, width * .42f, out},
+		                centre + axes * Vec3{x - length * .10f, -width * .62f, out}, width * .17f,
+		                width * .15f, place.bar, .1f);
+	}
 }
 
 void WingBuilder::AddFlipper()
@@ -65,9 +80,10 @@ void WingBuilder::AddSpread()
 	float flap  = pose.flying ? pose.flap : -.1f + .9f * pose.armsUp;
 	float tip   = pose.flying ? pose.flapTip : flap;
 	float inner = .18f + flap * .95f, outer = inner * .45f + tip * .75f;
-	Vec3 d1    = Normalize({.12f, std::sin(inner), s * std::cos(inner)});
-	Vec3 d2    = Normalize({-.30f, std::sin(outer), s * std::cos(outer)});
-	float span = bird.span, chord = bird.chord;
+	float back = pose.flying ? pose.fold : 0;
+	Vec3 d1    = Normalize({.12f + .30f * back, std::sin(inner), s * std::cos(inner)});
+	Vec3 d2    = Normalize({-.30f - 1.1f * back, std::sin(outer), s * std::cos(outer)});
+	float span = bird.span * (1 - .12f * back), chord = bird.chord;
 	Vec3 root  = OnBody(bird.bodyLength * .22f, bird.bodyRadius * .50f, s * bird.bodyRadius * .45f);
 	Vec3 wrist = root + d1 * span;
 	AddFeathers(root, wrist, d1, d2); // before the panels, whose blend then covers their roots
@@ -80,18 +96,24 @@ void WingBuilder::AddSpread()
 void WingBuilder::AddFeathers(Vec3 root, Vec3 wrist, Vec3 inner, Vec3 outer)
 {
 	const Vec3 BACK = {-1, 0, 0};
+	const int SHORT = 5, LONG = 7;
 	float span = bird.span, chord = bird.chord;
-	for (int i = 0; i < 4; i++) {
-		Vec3 from = Mix(root, wrist, .12f + .26f * i) + BACK * (chord * .25f);
-		model.RoundCone(from, from + Normalize(BACK + inner * .12f) * (chord * .95f), chord * .30f,
-		                chord * .20f, place.wing, .5f);
+	for (int i = 0; i < SHORT; i++) {
+		Vec3 from = Mix(root, wrist, .06f + .23f * i) + BACK * (chord * .25f);
+		model.RoundCone(from, from + Normalize(BACK + inner * (.04f + .05f * i)) * (chord * .98f),
+		                chord * .28f, chord * .20f, place.trail, .5f);
 	}
-	for (int i = 0; i < 6; i++) {
-		Vec3 from = Mix(wrist, wrist + outer * (span * .35f), 1 - i / 5.f) +
-		            BACK * (chord * .12f * i / 5.f);
-		Vec3 direction = Normalize(outer * (1 - .17f * i) + BACK * (.10f + .24f * i));
-		model.RoundCone(from, from + direction * (span * (.92f - .07f * i)), chord * .20f,
-		                chord * .13f, place.tip, .3f);
+	// Parted feathers are slender and bend up at their ends.
+	float part = bird.fingers, slim = 1 - .42f * part, shorten = .055f + .06f * bird.point;
+	Vec3 up = Normalize(Cross(BACK, outer)) * (float)-s;
+	for (int i = 0; i < LONG; i++) {
+		Vec3 from = Mix(wrist, wrist + outer * (span * .35f), 1 - i / (LONG - 1.f)) +
+		            BACK * (chord * .12f * i / (LONG - 1.f));
+		float a        = .06f - .10f * part + (.215f + .035f * part) * i;
+		Vec3 direction = Normalize(outer * std::cos(a) + BACK * std::sin(a) + up * (.12f * part));
+		model.RoundCone(from, from + direction * (span * (.94f - shorten * i)),
+		                chord * .19f * (1 - .25f * part), chord * .12f * slim, place.tip,
+		                .3f * (1 - part));
 	}
 }
 } // namespace

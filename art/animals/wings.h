@@ -4,10 +4,10 @@
 #include "art/animals/bird.h"
 
 struct WingPlace {
-	Vec3 body;          // centre of the egg
-	Mat3 axes;          // of the egg
-	int wing, tip, bar; // materials
-	int side;           // -1 or 1
+	Vec3 body;                 // centre of the egg
+	Mat3 axes;                 // of the egg
+	int wing, tip, bar, trail; // materials
+	int side;                  // -1 or 1
 };
 
 void AddWing(Model& model, const Bird& bird, const Pose& pose, const WingPlace& place);
