@@ -2,26 +2,7 @@
 #include "art/objects/machine_effects.h"
 
 #include "art/core/canvas.h"
-
-static const int SAMPLES_A_PIXEL = 3;
-
-// Asks a colour and an alpha for every sample of a picture.
-static Image PaintLight(int w, int h, const std::function<float(float, float, Colour&)>& at)
-{
-	Image fine(w * SAMPLES_A_PIXEL, h * SAMPLES_A_PIXEL);
-	for (int y = 0; y < fine.height; y++)
-		for (int x = 0; x < fine.width; x++) {
-			Colour c;
-			float a  = Clamp01(at((x + .5f) / SAMPLES_A_PIXEL, (y + .5f) / SAMPLES_A_PIXEL, c));
-			c        = ClampColour(c);
-			float* p = fine.At(x, y);
-			p[0]     = c.x * a;
-			p[1]     = c.y * a;
-			p[2]     = c.z * a;
-			p[3]     = a;
-		}
-	return BoxDownsample(fine, SAMPLES_A_PIXEL);
-}
+#include "art/objects/light.h"
 
 // Heat 0..1 to colour: from the dark edge to the white core.
 static Colour FlameColour(bool fast, float heat)
