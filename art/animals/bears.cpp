@@ -4,7 +4,8 @@
 #include "art/animals/beasts.h"
 #include "art/families.h"
 
-static const float SITTING_PITCH = 1.15f; // radians that a panda is tipped, nose up
+static const float LYING_PITCH = 2.7f; // radians that a panda is tipped over, nose up
+static const float LYING_LIFT  = 2;    // length that keeps its back out of the ground
 
 static Quadruped BearShape()
 {
@@ -86,66 +87,63 @@ static std::vector<Sequence> OfBears()
 	        {"growl", Growl()}};
 }
 
-// On its rump, paws before it.
-static Pose OnItsRump()
+// On its back, legs in the air, chin on its chest.
+static Pose OnItsBack()
 {
 	Pose p;
-	p.pitch   = SITTING_PITCH;
-	p.headTip = -SITTING_PITCH * .8f; // the head stays level
-	p.limbsUp = .15f;
-	p.tuck    = .55f;
-	p.look    = .3f;
+	p.pitch     = LYING_PITCH;
+	p.headLevel = 1;
+	p.headTip   = .45f;
+	p.lift      = LYING_LIFT;
+	p.look      = 1.0f;
 	return p;
 }
 
+// Sits down, falls over backward and rocks until it lies.
 static Poses RollOver()
 {
-	const int COUNT = 8;
-	Poses list(COUNT);
-	for (int i = 0; i < COUNT; i++) {
-		float t         = Part(i, COUNT);
-		const Pose seat = OnItsRump();
-		Pose& p         = list[i];
-		p.squash        = i == 0 ? 2.2f : 0;
-		p.pitch         = seat.pitch * (Ease(t) + .12f * std::sin(t * 2 * PI) * t);
-		p.headTip       = seat.headTip * Ease(t);
-		p.limbsUp       = seat.limbsUp * Ease(t);
-		p.tuck          = seat.tuck * Ease(t);
-		p.look          = seat.look * t;
-		p.wideEyes      = .3f * std::sin(t * PI);
+	const float WAY[]   = {0, .08f, .24f, .44f, .66f, .88f, 1.04f, 1.08f, 1.05f, .96f, .95f, 1};
+	const float FLING[] = {0, 0, .15f, .35f, .5f, .6f, .5f, .3f, .15f, 0, 0, 0};
+	Poses list(12);
+	for (int i = 0; i < 12; i++) {
+		Pose& p           = list[i];
+		const Pose onBack = OnItsBack();
+		p.squash          = i == 0 ? 2.4f : 0;
+		p.pitch           = onBack.pitch * WAY[i];
+		p.headLevel       = Smoothstep(.1f, .7f, WAY[i]);
+		p.headTip         = onBack.headTip * std::min(1.f, WAY[i]);
+		p.lift     = onBack.lift * std::min(1.f, WAY[i] * 1.8f) + 24 * std::max(0.f, WAY[i] - 1);
+		p.look     = onBack.look * WAY[i];
+		p.limbsUp  = FLING[i];
+		p.wideEyes = i > 0 && i < 8 ? .3f : 0;
+		p.mouth    = i > 1 && i < 8 ? .5f : 0;
 	}
 	return list;
 }
 
-static Poses LookSitting()
+static Poses LookLying()
 {
 	Poses list = Look(5);
 	for (Pose& p : list) {
 		float look = p.look;
-		p          = OnItsRump();
-		p.look += .8f * look;
+		p          = OnItsBack();
+		p.look += .6f * look - .5f;
 	}
 	return list;
 }
 
 static Poses Pedal()
 {
-	const int COUNT = 12;
-	Poses list(COUNT, OnItsRump());
+	const int COUNT = 8;
+	Poses list(COUNT, OnItsBack());
 	for (int i = 0; i < COUNT; i++) {
+		float beat         = std::sin(2 * PI * i / COUNT);
 		list[i].stride     = i / (float)COUNT;
-		list[i].strideSize = .4f;
-		list[i].tuck       = .6f;
-		list[i].pitch += .06f * std::sin(2 * PI * i / COUNT);
+		list[i].strideSize = 1.25f;
+		list[i].pitch += .05f * beat;
+		list[i].mouth = .35f;
 	}
 	return list;
-}
-
-static Pose BlinkSitting()
-{
-	Pose p = OnItsRump();
-	p.lid  = 1;
-	return p;
 }
 
 void AddBears(Catalogue& catalogue)
@@ -155,7 +153,6 @@ void AddBears(Catalogue& catalogue)
 	AddBeast(catalogue, __FILE__, Panda,
 	         {{"walk", Walk(12)},
 	          {"roll", RollOver()},
-	          {"roll", {BlinkSitting()}, "blink", false},
-	          {"rolllook", LookSitting()},
+	          {"rolllook", LookLying()},
 	          {"rollpedal", Pedal()}});
 }

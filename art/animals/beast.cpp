@@ -27,6 +27,12 @@ static void DrawInBubble(Sink& sink, const Species& species)
 	}
 }
 
+void AddInBubble(Catalogue& catalogue, const char* source, Species (*species)())
+{
+	catalogue.Add("animals " + species().prefix + " bubble", source,
+	              [species](Sink& sink) { DrawInBubble(sink, species()); });
+}
+
 void AddBeast(Catalogue& catalogue, const char* source, Species (*species)(),
               const std::vector<Sequence>& sequences, bool blinks, const char* lookWord)
 {
@@ -35,6 +41,5 @@ void AddBeast(Catalogue& catalogue, const char* source, Species (*species)(),
 		all.push_back({"stand", {Blinking()}, "blink", false});
 	all.insert(all.end(), sequences.begin(), sequences.end());
 	AddSequences(catalogue, source, species, all);
-	catalogue.Add("animals " + species().prefix + " bubble", source,
-	              [species](Sink& sink) { DrawInBubble(sink, species()); });
+	AddInBubble(catalogue, source, species);
 }

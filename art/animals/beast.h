@@ -12,3 +12,5 @@ Species BeastSpecies(const char* prefix, float width, Quadruped (*shape)());
 void AddBeast(Catalogue& catalogue, const char* source, Species (*species)(),
               const std::vector<Sequence>& sequences, bool blinks = true,
               const char* lookWord = "look");
+// The two views in the bubble alone.
+void AddInBubble(Catalogue& catalogue, const char* source, Species (*species)());

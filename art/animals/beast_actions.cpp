@@ -99,14 +99,14 @@ Poses KickOut()
 // Twice.
 Poses Bark()
 {
-	Poses list(7);
-	for (int i = 0; i < 7; i++) {
-		float t = Part(i, 7), call = std::fabs(std::sin(t * 2 * PI));
+	Poses list(6);
+	for (int i = 0; i < 6; i++) {
+		float t = Part(i, 6), call = i % 2 ? 1 : .25f;
 		Pose& p     = list[i];
 		p.squash    = PressAtFirst(i, 2);
-		p.mouth     = i && i < 6 ? call : 0;
-		p.headTip   = .35f * call;
-		p.rise      = 2.2f * call;
+		p.mouth     = i && i < 5 ? call : 0;
+		p.headTip   = i ? .35f * call : 0;
+		p.rise      = i && i < 5 ? 2.2f * call : 0;
 		p.earSwing  = .6f * call;
 		p.tailRaise = .6f * std::sin(t * PI);
 		p.tailSwing = std::sin(t * 4 * PI);
@@ -116,17 +116,21 @@ Poses Bark()
 
 Poses PawTheAir()
 {
-	Poses list(8);
-	for (int i = 0; i < 8; i++) {
-		float t = Part(i, 8), a = std::sin(t * PI);
+	const float UP[]  = {0, .45f, .85f, .85f, .85f, .6f, .2f}; // on its haunches
+	const float PAW[] = {0, .3f, 1, .25f, 1, .25f, 0};
+	Poses list(7);
+	for (int i = 0; i < 7; i++) {
+		float a     = std::sin(Part(i, 7) * PI);
 		Pose& p     = list[i];
-		p.squash    = PressAtFirst(i, 2);
-		p.raisePaw  = i ? Clamp01(a * (.8f + .35f * std::sin(t * 4 * PI))) : 0;
-		p.look      = .5f * a;
-		p.mouth     = i >= 2 && i <= 4 ? .6f : 0;
-		p.earSwing  = .5f * a;
+		p.squash    = PressAtFirst(i, 2.4f);
+		p.rear      = UP[i];
+		p.raisePaw  = PAW[i];
+		p.look      = .35f * a;
+		p.headTip   = -.25f * UP[i];
+		p.mouth     = i > 0 && i < 6 ? .8f : 0;
+		p.earSwing  = .8f * a;
 		p.tailRaise = a;
-		p.frown     = .6f * a;
+		p.frown     = a;
 	}
 	return list;
 }
@@ -162,9 +166,9 @@ Poses Trumpet()
 
 Poses Yawn()
 {
-	Poses list(9);
-	for (int i = 0; i < 9; i++) {
-		float a    = i ? Plateau(Part(i, 9), 1.5f) : 0;
+	Poses list(8);
+	for (int i = 0; i < 8; i++) {
+		float a    = i ? Plateau(Part(i, 8), 1.5f) : 0;
 		Pose& p    = list[i];
 		p.squash   = PressAtFirst(i, 2.6f);
 		p.mouth    = WIDEST * a;
@@ -206,28 +210,16 @@ Poses Growl()
 
 Poses ComeDownSmiling()
 {
-	Poses list(9);
-	for (int i = 0; i < 9; i++) {
-		float t    = Part(i, 9);
+	const float REAR[] = {.7f, .25f, 0, 0}, PRESS[] = {0, 0, 1.8f, .6f};
+	Poses list(4);
+	for (int i = 0; i < 4; i++) {
 		Pose& p    = list[i];
-		p.rear     = 1 - Ease(std::min(1.f, t * 1.5f));
-		p.squash   = i == 6 ? 1.8f : i == 7 ? .8f : 0;
-		p.look     = .35f * (1 - t) + .4f * std::sin(t * PI);
-		p.mouth    = .55f * std::sin(t * PI);
-		p.headTip  = .2f * std::sin(t * PI);
-		p.earSwing = .5f * std::sin(t * PI);
-	}
-	return list;
-}
-
-Poses DipHead(int count)
-{
-	Poses list(count);
-	for (int i = 0; i < count; i++) {
-		float t    = Part(i, count);
-		Pose& p    = list[i];
-		p.headDown = Ease(Plateau(t, 1.5f));
-		p.chew     = p.headDown > .95f ? std::sin(i * PI / 2) : 0;
+		p.rear     = REAR[i];
+		p.squash   = PRESS[i];
+		p.look     = .5f;
+		p.mouth    = i < 3 ? .55f : .3f;
+		p.headTip  = i == 3 ? .2f : .1f;
+		p.earSwing = .4f;
 	}
 	return list;
 }
@@ -249,9 +241,9 @@ Poses Chew()
 
 Poses Whinny()
 {
-	Poses list(10);
-	for (int i = 0; i < 10; i++) {
-		float t = Part(i, 10), a = std::sin(t * PI);
+	Poses list(8);
+	for (int i = 0; i < 8; i++) {
+		float t = Part(i, 8), a = std::sin(t * PI);
 		Pose& p     = list[i];
 		p.headTip   = .5f * a + .12f * std::sin(t * 6 * PI) * a;
 		p.neckReach = .5f * a;
@@ -263,44 +255,44 @@ Poses Whinny()
 	return list;
 }
 
-// Quick breaths with an open mouth.
+// Quick breaths with an open mouth, over and over.
 Poses Pant()
 {
-	Poses list(12);
-	for (int i = 0; i < 12; i++) {
-		float t = Part(i, 12), edge = Plateau(t, 3);
-		Pose& p     = list[i];
-		p.mouth     = edge * (.55f + .25f * std::sin(i * PI / 1.5f));
-		p.squash    = edge * (.4f + .4f * std::sin(i * PI / 1.5f));
-		p.look      = .35f * edge;
-		p.headTip   = .1f * edge;
-		p.tailSwing = edge * std::sin(i * PI / 2);
-		p.tailRaise = .4f * edge;
+	Poses list(4);
+	for (int i = 0; i < 4; i++) {
+		float breath = .5f + .5f * std::sin(i * PI / 2);
+		Pose& p      = list[i];
+		p.mouth      = .4f + .4f * breath;
+		p.squash     = .8f * breath;
+		p.look       = .35f;
+		p.headTip    = .1f;
+		p.tailSwing  = std::cos(i * PI / 2);
+		p.tailRaise  = .4f;
 	}
 	return list;
 }
 
 Poses Purr()
 {
-	Poses list(12);
-	for (int i = 0; i < 12; i++) {
-		float t = Part(i, 12), a = Plateau(t, 2);
+	Poses list(6);
+	for (int i = 0; i < 6; i++) {
+		float wave  = std::sin(2 * PI * i / 6);
 		Pose& p     = list[i];
-		p.lid       = i > 1 && i < 10 ? 1 : 0;
-		p.headTip   = .18f * a + .05f * std::sin(i * PI);
-		p.look      = .5f * a;
-		p.squash    = .7f * a * (.5f + .5f * std::sin(i * PI / 2));
-		p.tailSwing = std::sin(t * 2 * PI);
-		p.tailRaise = .6f * a;
+		p.lid       = 1;
+		p.headTip   = .18f + .05f * wave;
+		p.look      = .5f;
+		p.squash    = .4f + .4f * wave;
+		p.tailSwing = std::cos(2 * PI * i / 6);
+		p.tailRaise = .6f;
 	}
 	return list;
 }
 
 Poses Sniff()
 {
-	Poses list(10);
-	for (int i = 0; i < 10; i++) {
-		float t = Part(i, 10), a = Plateau(t, 2);
+	Poses list(6);
+	for (int i = 0; i < 6; i++) {
+		float t = Part(i, 6), a = Plateau(t, 2);
 		Pose& p     = list[i];
 		p.headTip   = .35f * a;
 		p.neckReach = a * (.4f + .3f * std::sin(i * PI / 1.5f));
@@ -313,14 +305,14 @@ Poses Sniff()
 
 Poses Laugh()
 {
-	Poses list(12);
-	for (int i = 0; i < 12; i++) {
-		float t = Part(i, 12), a = Plateau(t, 2), shake = std::sin(i * PI / 1.5f);
+	Poses list(8);
+	for (int i = 0; i < 8; i++) {
+		float t = Part(i, 8), a = Plateau(t, 2), shake = std::sin(i * PI / 1.5f);
 		Pose& p    = list[i];
 		p.mouth    = a * (.65f + .3f * shake);
 		p.headTip  = a * (.45f + .1f * shake);
 		p.squash   = a * (.6f - .5f * shake);
-		p.lid      = i > 2 && i < 9 ? 1 : 0;
+		p.lid      = i > 1 && i < 6 ? 1 : 0;
 		p.earSwing = .5f * a;
 		p.look     = .4f * a;
 	}
@@ -329,22 +321,22 @@ Poses Laugh()
 
 Poses ShakeHead()
 {
-	Poses list(10);
-	for (int i = 0; i < 10; i++) {
-		float t = Part(i, 10), a = std::sin(t * PI);
+	Poses list(8);
+	for (int i = 0; i < 8; i++) {
+		float t = Part(i, 8), a = std::sin(t * PI);
 		Pose& p   = list[i];
 		p.look    = .7f * a * std::sin(t * 6 * PI);
 		p.headTip = -.35f * a;
-		p.lid     = i > 2 && i < 8 ? 1 : 0;
+		p.lid     = i > 1 && i < 6 ? 1 : 0;
 	}
 	return list;
 }
 
 Poses FlapEars()
 {
-	Poses list(12);
-	for (int i = 0; i < 12; i++) {
-		float t           = Part(i, 12);
+	Poses list(8);
+	for (int i = 0; i < 8; i++) {
+		float t           = Part(i, 8);
 		list[i].earSwing  = .5f - .5f * std::cos(t * 4 * PI);
 		list[i].chew      = .6f * std::sin(t * 2 * PI);
 		list[i].tailSwing = std::sin(t * 4 * PI);
@@ -354,7 +346,7 @@ Poses FlapEars()
 
 Poses Sleep()
 {
-	const float LYING[] = {.94f, .9f, .84f, .62f, .35f, .12f};
+	const float LYING[] = {1, 1, .95f, .7f, .38f, .12f};
 	Poses list(6);
 	for (int i = 0; i < 6; i++) {
 		list[i].lie    = LYING[i];

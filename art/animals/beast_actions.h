@@ -21,8 +21,18 @@ Poses RearUp();
 Poses Growl();
 Poses ComeDownSmiling();
 
-// Down to the ground and up again.
-Poses DipHead(int count);
+Poses TossHorn();       // a rhino's: furious
+Poses TossAntlers();    // a moose's, with a grunt
+Poses FallToItsKnees(); // a camel's
+Poses StartUp();        // a deer's leap on the spot
+
+// Down, each by its temper; the game holds the last picture and plays them back.
+Poses Stalk();           // big cats
+Poses Slink();           // hyena
+Poses Doze();            // hippo
+Poses LowerHorn();       // rhino
+Poses Browse();          // moose
+Poses LookDownItsNose(); // camel
 // Where the game plays the way down, the meal and the way up as actions of their own.
 Poses HeadDown();
 Poses Chew(); // upright
@@ -33,6 +43,6 @@ Poses Sniff();
 Poses Laugh();
 Poses ShakeHead();
 Poses FlapEars();
-// 5 still stands, 1 lies, 0 and 1 in turn breathe.
+// 5 still stands, 1 lies curled up, 0 and 1 in turn breathe.
 Poses Sleep();
 Poses Gallop(int count, Heading heading = Heading::Side);

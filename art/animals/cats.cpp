@@ -98,7 +98,7 @@ void AddCats(Catalogue& catalogue)
 	         {{"pawair", PawTheAir()}, {"run", Gallop(6)}, {"purr", Purr()}});
 	const std::vector<Sequence> snow = {{"roar", Roar()}, {"walk", Walk(12)}};
 	std::vector<Sequence> big        = snow;
-	big.push_back({"lowerhead", DipHead(12)});
+	big.push_back({"lowerhead", Stalk()});
 	AddBeast(catalogue, __FILE__, Tiger, big);
 	AddBeast(catalogue, __FILE__, SnowTiger, snow);
 	AddBeast(catalogue, __FILE__, Lion, big);

@@ -80,8 +80,9 @@ Species Camel()
 
 void AddDeer(Catalogue& catalogue)
 {
-	AddBeast(catalogue, __FILE__, Deer, {{"stunned", Stagger(7)}, {"walk", Walk(12)}});
-	AddBeast(catalogue, __FILE__, Moose, {{"hit", Stagger(7)}, {"lowerhead", DipHead(12)}});
-	AddBeast(catalogue, __FILE__, Camel,
-	         {{"stunned", Stagger(7)}, {"chewcud", Chew()}, {"lowerhead", DipHead(12)}});
+	AddBeast(catalogue, __FILE__, Deer, {{"stunned", StartUp()}, {"walk", Walk(12)}});
+	AddBeast(catalogue, __FILE__, Moose, {{"hit", TossAntlers()}, {"lowerhead", Browse()}});
+	AddBeast(
+	    catalogue, __FILE__, Camel,
+	    {{"stunned", FallToItsKnees()}, {"chewcud", Chew()}, {"lowerhead", LookDownItsNose()}});
 }

@@ -96,9 +96,47 @@ static Quadruped HyenaShape()
 	return q;
 }
 
+// On the ground in a ring, its chin on its tail. curl: 0 stretched out to 1 closed.
+static void AddCurledDog(Model& model, const View& view, const Pose& pose, float curl)
+{
+	const int LUMPS = 9;
+	Quadruped q     = DogShape();
+	int coat = AddCoat(model, q.coat), plain = model.Plain(q.coat.base);
+	int paw = model.Plain(q.legs);
+	float s = view.NearSide(), deep = Mix(1.5f, 5.0f, curl), wide = Mix(8.5f, 6.2f, curl);
+	float breath = -pose.squash * .06f;
+	for (int i = 0; i < LUMPS; i++) { // from the shoulder round the back to the hip
+		float a = Radians(Mix(10.f, Mix(180.f, 225.f, curl), i / (LUMPS - 1.f)));
+		float r = Mix(q.chest, q.hip, i / (LUMPS - 1.f)) * (.92f + breath);
+		model.Ball({wide * std::cos(a) - 2, r * .95f, -s * deep * std::sin(a)}, r, coat, 3.5f);
+	}
+	model.Ellipsoid({-5.5f, 3.6f, s * deep * .75f}, {4.4f, 3.6f, 3}, Mat3(), plain, 2);
+	model.Ellipsoid({-1, 1.5f, s * (deep + 2)}, {2.9f, 1.6f, 2}, Mat3(), paw, .9f);
+	model.Ellipsoid({Mix(11.f, 6.f, curl), 1.5f, s * (deep + 1)}, {3.2f, 1.6f, 2}, Mat3(), paw,
+	                .9f);
+	model.Tube({-9, 3, s * deep * .6f}, {-9, 1.6f, s * (deep + 5)}, {-3, 1.4f, s * (deep + 6)},
+	           {Mix(-6.f, 3.f, curl), 1.5f, s * (deep + 5)}, 1.9f, 1.3f, 6, plain, 1);
+	Vec3 at = {Mix(9.f, 6.2f, curl), q.head.radius * .80f + breath * 4, s * Mix(2.5f, 4.5f, curl)};
+	float turn = Radians(Mix(20.f, 46.f, curl)) * view.TowardViewer();
+	Head head  = q.head;
+	head.coat  = q.coat.base;
+	AddHead(model, head, {at, TurnY(turn) * TurnZ(-.16f)}, view, pose, 2);
+}
+
+static void BuildDog(Model& model, const View& view, const Pose& pose)
+{
+	const float CURLS_FROM = .9f; // part of lying down
+	if (pose.lie > CURLS_FROM)
+		AddCurledDog(model, view, pose, (pose.lie - CURLS_FROM) / (1 - CURLS_FROM));
+	else
+		AddQuadruped(model, DogShape(), view, pose);
+}
+
 Species Dog()
 {
-	return BeastSpecies("dog", 32, DogShape);
+	Species s = BeastSpecies("dog", 32, DogShape);
+	s.build   = BuildDog;
+	return s;
 }
 
 Species Fox()
@@ -131,9 +169,7 @@ void AddDogs(Catalogue& catalogue)
 	          {"walkdown", Walk(8, Heading::Down)}});
 	AddBeast(catalogue, __FILE__, Wolf, {{"walk", Walk(12)}, {"howl", Howl()}});
 	AddBeast(catalogue, __FILE__, Coyote, {{"walk", Walk(12)}, {"howl", Howl()}});
-	AddBeast(catalogue, __FILE__, Hyena,
-	         {{"stunned", Stagger(7)},
-	          {"walk", Walk(12)},
-	          {"laugh", Laugh()},
-	          {"lowerhead", DipHead(12)}});
+	AddBeast(
+	    catalogue, __FILE__, Hyena,
+	    {{"stunned", Stagger(7)}, {"walk", Walk(12)}, {"laugh", Laugh()}, {"lowerhead", Slink()}});
 }

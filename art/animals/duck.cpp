@@ -1,7 +1,8 @@
 // The duck and her ducklings.
 #include "art/animals/duck.h"
 
-#include "art/animals/actions.h"
+#include "art/animals/beast.h"
+#include "art/animals/fowl_actions.h"
 #include "art/families.h"
 
 static const float DUCK_SWAY = .15f, DUCKLING_SWAY = .20f; // radians of a waddle
@@ -67,36 +68,6 @@ Species Duckling()
 	return s;
 }
 
-// The head goes back and then up and forward; the game plays it back.
-static Poses MovingHead()
-{
-	const float REACH[] = {-.35f, .2f, .8f, 1};
-	Poses list(4);
-	for (int i = 0; i < 4; i++) {
-		list[i].neckReach = REACH[i];
-		list[i].headTip   = .10f * REACH[i];
-	}
-	return list;
-}
-
-// Lifts its wings a little, shakes them into place and wags its tail.
-static Poses AdjustingWings()
-{
-	Poses list(8);
-	for (int i = 0; i < 8; i++) {
-		float t = Part(i, 8), shake = std::sin(t * 6 * PI) * std::sin(t * PI);
-		Pose& p     = list[i];
-		p.armsUp    = .34f * std::sin(t * PI);
-		p.ruffle    = .55f * std::sin(t * PI);
-		p.tailSwing = shake;
-		p.sway      = .07f * shake;
-		p.rise      = 1.0f * std::sin(t * PI);
-		p.neckReach = .4f * std::sin(t * PI);
-		p.lid       = i == 3 || i == 4 ? 1 : 0;
-	}
-	return list;
-}
-
 static std::vector<Sequence> Common(float sway, float stride)
 {
 	return {{"stand", {Pose()}, "", false},
@@ -105,30 +76,18 @@ static std::vector<Sequence> Common(float sway, float stride)
 	        {"walkdown", Waddle(8, Heading::Down, sway, stride)}};
 }
 
-static void DrawInBubble(Sink& sink, const Species& species)
-{
-	Figure figure(species);
-	for (bool left : {true, false}) {
-		Pose pose = Captured();
-		pose.left = left;
-		sink.Add(species.prefix + "bubble" + (left ? "left" : "right") + ".png",
-		         figure.DrawAlone(pose));
-	}
-}
-
 void AddDuck(Catalogue& catalogue)
 {
 	std::vector<Sequence> sequences = Common(DUCK_SWAY, 1);
 	sequences.push_back({"look", Look(5, 1.2f)});
-	sequences.push_back({"movehead", MovingHead()});
-	sequences.push_back({"adjustwings", AdjustingWings()});
+	sequences.push_back({"movehead", MoveHead(4)});
+	sequences.push_back({"adjustwings", AdjustWings(8, .34f)});
 	AddSequences(catalogue, __FILE__, Duck, sequences);
-	catalogue.Add("animals duck bubble", __FILE__, [](Sink& sink) { DrawInBubble(sink, Duck()); });
+	AddInBubble(catalogue, __FILE__, Duck);
 }
 
 void AddDuckling(Catalogue& catalogue)
 {
 	AddSequences(catalogue, __FILE__, Duckling, Common(DUCKLING_SWAY, 1.15f));
-	catalogue.Add("animals duckling bubble", __FILE__,
-	              [](Sink& sink) { DrawInBubble(sink, Duckling()); });
+	AddInBubble(catalogue, __FILE__, Duckling);
 }

@@ -77,6 +77,6 @@ Species Rhino()
 void AddGiants(Catalogue& catalogue)
 {
 	AddBeast(catalogue, __FILE__, Elephant, {{"trumpet", Trumpet()}, {"ears", FlapEars()}});
-	AddBeast(catalogue, __FILE__, Hippo, {{"openmouth", Yawn()}, {"lowerhead", DipHead(12)}});
-	AddBeast(catalogue, __FILE__, Rhino, {{"stunned", Stagger(7)}, {"lowerhead", DipHead(12)}});
+	AddBeast(catalogue, __FILE__, Hippo, {{"openmouth", Yawn()}, {"lowerhead", Doze()}});
+	AddBeast(catalogue, __FILE__, Rhino, {{"stunned", TossHorn()}, {"lowerhead", LowerHorn()}});
 }

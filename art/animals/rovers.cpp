@@ -66,9 +66,22 @@ Species Mouse()
 	return BeastSpecies("mouse", 25, MouseShape);
 }
 
+// On a trunk its legs reach round both sides.
+static void BuildRaccoon(Model& model, const View& view, const Pose& pose)
+{
+	Quadruped q = RaccoonShape();
+	if (pose.climb >= 0) {
+		q.spread = 7.4f, q.shin = 2.3f, q.paw = 2.7f;
+		q.tailLength = 10, q.head.ruff = 0;
+	}
+	AddQuadruped(model, q, view, pose);
+}
+
 Species Raccoon()
 {
-	return BeastSpecies("raccoon", 42, RaccoonShape);
+	Species s = BeastSpecies("raccoon", 42, RaccoonShape);
+	s.build   = BuildRaccoon;
+	return s;
 }
 
 Species Skunk()
@@ -76,39 +89,44 @@ Species Skunk()
 	return BeastSpecies("skunk", 42, SkunkShape);
 }
 
-// Lets go, then lands on its feet at the sixth picture.
+// Lets go, then lands on its feet at the fourth picture.
 static Poses Fall()
 {
-	const float PRESS[] = {1.2f, 3.6f, 2, -.6f, .4f, 0};
-	Poses list(12);
-	for (int i = 0; i < 6; i++) {
-		list[i].limbsUp  = Ease((i + 1) / 3.f);
+	const float PRESS[] = {1.2f, 3.6f, 1.2f, -.5f};
+	const int FALLING = 2, LANDING = 4;
+	Poses list(FALLING + LANDING);
+	for (int i = 0; i < FALLING; i++) {
+		list[i].limbsUp  = i ? 1 : .75f;
 		list[i].wideEyes = .4f;
 		list[i].mouth    = .8f;
-		list[i].pitch    = .14f * std::sin(i * 1.7f);
+		list[i].pitch    = i ? .12f : -.06f;
 		list[i].rise     = 3;
 		list[i].shadow   = false;
 	}
-	for (int i = 0; i < 6; i++) {
-		Pose& p    = list[6 + i];
+	for (int i = 0; i < LANDING; i++) {
+		Pose& p    = list[FALLING + i];
 		p.limbsUp  = i == 0 ? .6f : 0;
 		p.squash   = PRESS[i];
-		p.lid      = i == 1 || i == 2 ? 1 : 0;
-		p.wideEyes = i > 2 ? .3f : 0;
+		p.lid      = i == 1 ? 1 : 0;
+		p.wideEyes = i > 1 ? .3f : 0;
 	}
 	return list;
 }
 
-// Upright along the trunk, paw over paw.
+// Up the trunk with its belly to it and its back to the viewer, paw over paw.
 static Poses Climb()
 {
 	const int COUNT = 8;
-	Poses list      = Walk(COUNT, Heading::Side, .5f);
+	Poses list      = Walk(COUNT, Heading::Back, 1.1f);
 	for (int i = 0; i < COUNT; i++) {
 		float step        = std::sin(2 * PI * i / COUNT);
-		list[i].rear      = 1;
-		list[i].raisePaw  = .5f + .5f * step;
-		list[i].headTip   = .35f;
+		list[i].climb     = i / (float)COUNT;
+		list[i].turnAway  = -22;
+		list[i].pitch     = 1.25f;
+		list[i].lift      = 8;
+		list[i].headLevel = 1;
+		list[i].headTip   = .3f;
+		list[i].look      = 1.2f;
 		list[i].tailSwing = step;
 		list[i].shadow    = false;
 	}
@@ -125,9 +143,9 @@ void AddRovers(Catalogue& catalogue)
 	         false);
 	AddBeast(catalogue, __FILE__, Raccoon,
 	         {{"stunned", Stagger(7)},
-	          {"runup", Gallop(8, Heading::Up)},
-	          {"rundown", Gallop(8, Heading::Down)},
+	          {"runup", Gallop(12, Heading::Up)},
+	          {"rundown", Gallop(12, Heading::Down)},
 	          {"fall", Fall()},
 	          {"climb", Climb()}});
-	AddBeast(catalogue, __FILE__, Skunk, {{"run", Gallop(8)}, {"spray", Spray()}}, false);
+	AddBeast(catalogue, __FILE__, Skunk, {{"run", Gallop(12)}, {"spray", Spray()}}, false);
 }

@@ -13,8 +13,8 @@
 #include "sound/sound.h"
 
 // The stars go round its head before it comes to.
-static const char* const STUNNED = "=stunned0-10 =stunned9-5 =stunned6-10 =stunned9-5 "
-                                   "=stunned6-10 =stunned9-5 =stunned6-10 =stunned9-5";
+static const char* const STUNNED = "=stunned0-10 =stunned5-10 =stunned5-10 =stunned5-10 "
+                                   "=stunned5-10 =stunned5-10 =stunned5-10";
 
 // clang-format off
 // No word but the run has sides.

@@ -6,19 +6,18 @@
 
 // clang-format off
 static const ActionRow s_actions[] = {
-	// name         kind          frames  weight role       then options
-	{ "stand",      ACTION_IDLE,  ".",        0, ROLE_NONE, "" },
-	{ "standblink", ACTION_BLINK, ".",        2, ROLE_NONE, "" },
-	{ "look",       ACTION_LOOK,  "0-4",      1, ROLE_NONE, "" },
-	{ "stunned",    ACTION_BUMP,  "0-7",      0, ROLE_BUMP, "",
+	// name         kind          frames                                  weight role       then options
+	{ "stand",      ACTION_IDLE,  ".",                                        0, ROLE_NONE, "" },
+	{ "standblink", ACTION_BLINK, ".",                                        2, ROLE_NONE, "" },
+	{ "look",       ACTION_LOOK,  "0-4",                                      1, ROLE_NONE, "" },
+	{ "stunned",    ACTION_BUMP,  "0-5 6*2 7*2 6*2 7*2 6*2 7*2 5*4 4-2",      0, ROLE_BUMP, "",
 	  { .extraSound = "ostrich_head.ogg", .extraDelay = 12 } },
-	{ "run",        ACTION_WALK,  "0-9",      2, ROLE_NONE, "" },
+	{ "run",        ACTION_WALK,  "0-9",                                      2, ROLE_NONE, "" },
 };
 
 static const BodyPoint s_body[] = {
-	{ 8, 53 }, { 17, 55 }, { 26, 56 }, { 35, 55 }, { 44, 53 },
-	{ 50, 48 }, { 44, 43 }, { 35, 41 }, { 26, 40 }, { 17, 41 },
-	{ 8, 43 }, { 2, 48 },
+	{ 16, 46 }, { 18, 54 }, { 25, 57 }, { 31, 54 }, { 32, 46 },
+	{ 31, 39 }, { 24, 36 }, { 18, 39 },
 };
 // clang-format on
 
