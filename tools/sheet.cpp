@@ -1,10 +1,11 @@
 // Lays the pictures of resource.dat out on one sheet, with their names and sizes.
 #include "art/core/canvas.h"
-#include "art/core/container.h"
 #include "art/core/encode.h"
 #include "art/core/files.h"
 #include "art/core/palette.h"
-#include "art/core/stamps.h"
+#include "tools/sheet_bodies.h"
+#include "tools/sheet_common.h"
+#include "tools/sheet_film.h"
 #include "tools/sheet_sounds.h"
 
 #include <cstdio>
@@ -16,7 +17,11 @@ static const int DEFAULT_WIDTH = 1200;
 static const char* const USAGE =
     "sheet PREFIX OUT.png [--data DIR] [--zoom N] [--ground grass|sand|snow|night|checker]\n"
     "      [--columns N] [--bare]\n"
-    "sheet --sounds OUT.png [PREFIX] [--data DIR]\n";
+    "sheet --sounds OUT.png [PREFIX] [--data DIR]\n"
+    "sheet --film DIR OUT.png [--columns N] [--crop X Y W H] [--every N] [--from N] [--zoom N]\n"
+    "sheet --bodies OUT.png [SPECIES...] [--fitted] [--data DIR]\n"
+    "      outlines over standing pictures: those of the tables, or fitted ones\n"
+    "sheet --fit [SPECIES...] [--data DIR]   fitted outlines as rows of a table\n";
 
 namespace
 {
@@ -57,29 +62,6 @@ static bool ReadOrder(int count, char** words, Order& order)
 	return plain == 2;
 }
 
-static Image Decode(const Picture& p)
-{
-	if (!p.bytes.compare(0, 4, "\x89PNG"))
-		return DecodePng(p.bytes);
-	if (!p.bytes.compare(0, 2, "\xff\xd8"))
-		return DecodeJpeg(p.bytes);
-	return DecodeTga(p.bytes);
-}
-
-static Colour GroundAt(const std::string& ground, int x, int y)
-{
-	float grain = LayeredNoise(x * .05f, y * .12f, 3, 3) - .5f;
-	if (ground == "sand")
-		return PAINT_SAND * (1 + .08f * grain);
-	if (ground == "snow")
-		return PAINT_SNOW * (1 + .04f * grain);
-	if (ground == "night")
-		return Mix(GrassColour(x, 270 + y), PAINT_NIGHT, .34f);
-	if (ground == "checker")
-		return (x / 8 + y / 8) & 1 ? Colour{.62f, .62f, .66f} : Colour{.74f, .74f, .78f};
-	return GrassColour(x, 270 + y);
-}
-
 // Where each picture goes, and how large the sheet gets.
 static std::vector<At> LayOut(const std::vector<Entry>& entries, const Order& order, int& width,
                               int& height)
@@ -111,17 +93,18 @@ int main(int count, char** words)
 {
 	if (count > 1 && !std::strcmp(words[1], "--sounds"))
 		return DrawSoundSheet(count, words);
+	if (count > 1 && !std::strcmp(words[1], "--film"))
+		return DrawFilmSheet(count, words);
+	if (count > 1 && (!std::strcmp(words[1], "--bodies") || !std::strcmp(words[1], "--fit")))
+		return DrawBodySheet(count, words);
 	Order order;
 	if (!ReadOrder(count, words, order)) {
 		std::fputs(USAGE, stderr);
 		return 2;
 	}
-	std::string bytes;
 	std::vector<Picture> pictures;
-	if (!ReadFile(order.data + "/resource.dat", bytes) || !UnpackContainer(bytes, pictures)) {
-		std::fprintf(stderr, "sheet: no resource.dat in %s\n", order.data.c_str());
+	if (!LoadPictures(order.data, pictures))
 		return 1;
-	}
 	std::vector<Entry> entries;
 	for (const Picture& p : pictures)
 		if (!p.name.compare(0, order.prefix.size(), order.prefix))
@@ -132,10 +115,7 @@ int main(int count, char** words)
 	}
 	int width, height;
 	std::vector<At> places = LayOut(entries, order, width, height);
-	Image sheet(width, height);
-	for (int y = 0; y < height; y++)
-		for (int x = 0; x < width; x++)
-			Blend(sheet, x, y, GroundAt(order.ground, x, y));
+	Image sheet            = Ground(order.ground, width, height);
 	for (size_t i = 0; i < entries.size(); i++)
 		Compose(sheet, Enlarged(entries[i].image, order.zoom), (int)places[i].x, (int)places[i].y);
 	Canvas canvas(width, height, 1);

@@ -26,8 +26,8 @@ static const PictureRow s_pictures[CFlamingo::PICTURES] = {
 };
 
 static const BodyPoint s_body[] = {
-	{ 8, 39 }, { 16, 40 }, { 24, 39 }, { 30, 35 }, { 24, 31 },
-	{ 16, 30 }, { 8, 31 }, { 2, 35 },
+	{ 12, 38 }, { 12, 44 }, { 17, 47 }, { 22, 44 }, { 23, 38 },
+	{ 22, 32 }, { 17, 29 }, { 12, 32 },
 };
 // clang-format on
 

@@ -15,8 +15,8 @@ static const ActionRow s_actions[] = {
 };
 
 static const BodyPoint s_body[] = {
-	{ 6, 9 }, { 12, 10 }, { 18, 9 }, { 22, 6 }, { 18, 4 },
-	{ 12, 3 }, { 6, 4 }, { 2, 6 },
+	{ 3, 13 }, { 7, 16 }, { 13, 16 }, { 19, 16 }, { 24, 13 },
+	{ 19, 11 }, { 13, 11 }, { 7, 11 },
 };
 // clang-format on
 

@@ -11,13 +11,12 @@ static const ActionRow s_actions[] = {
 	{ "standblink", ACTION_BLINK, ".",        2, ROLE_NONE, "" },
 	{ "look",       ACTION_LOOK,  "0-4",      1, ROLE_NONE, "" },
 	{ "squeal",     ACTION_BUMP,  "0-6",      0, ROLE_BUMP, "" },
-	{ "walk",       ACTION_WALK,  "0-11",     1, ROLE_NONE, "" },
+	{ "walk",       ACTION_WALK,  "0-7",      1, ROLE_NONE, "" },
 };
 
 static const BodyPoint s_body[] = {
-	{ 8, 24 }, { 15, 25 }, { 23, 26 }, { 31, 26 }, { 38, 24 },
-	{ 44, 19 }, { 38, 14 }, { 31, 13 }, { 23, 12 }, { 15, 12 },
-	{ 8, 14 }, { 2, 19 },
+	{ 5, 25 }, { 11, 31 }, { 19, 32 }, { 28, 32 }, { 37, 31 },
+	{ 43, 25 }, { 37, 20 }, { 28, 19 }, { 19, 19 }, { 10, 20 },
 };
 // clang-format on
 

@@ -11,7 +11,7 @@ static const ActionRow s_actions[] = {
 	{ "runnerlook",        ACTION_LOOK,      "0-4",         1, ROLE_NONE, "" },
 	{ "runnermovehead",    ACTION_LOOK,      "0-3",         1, ROLE_NONE, "" },
 	{ "runnerstunned",     ACTION_BUMP,      "0-6",         0, ROLE_BUMP, "" },
-	{ "runnerrunup",       ACTION_WALK_BOTH, "0-7",         3, ROLE_NONE, "" },
+	{ "runnerrunup",       ACTION_WALK_BOTH, "0-7",         3, ROLE_NONE, "", { .ticks = 1 } },
 	{ "last:runnerpeck",   ACTION_GRAZE,     "0-2 1-0",     0, ROLE_NONE, "" },
 	{ "third:runnerpeck",  ACTION_GRAZE,     "0-2 1-0",     0, ROLE_NONE, "last" },
 	{ "second:runnerpeck", ACTION_GRAZE,     "0-2 1-0",     0, ROLE_NONE, "third" },
@@ -19,8 +19,8 @@ static const ActionRow s_actions[] = {
 };
 
 static const BodyPoint s_body[] = {
-	{ 9, 21 }, { 17, 22 }, { 25, 21 }, { 32, 17 }, { 25, 13 },
-	{ 17, 12 }, { 9, 13 }, { 2, 17 },
+	{ 10, 27 }, { 13, 32 }, { 18, 33 }, { 24, 32 }, { 27, 27 },
+	{ 24, 22 }, { 18, 21 }, { 13, 22 },
 };
 // clang-format on
 

@@ -5,8 +5,19 @@
 
 // clang-format off
 static const LevelEntry s_levels[] = {
-	// number, name,             routine
-	{ 1,       "First meadow",   BuildLevel001 },
+	// number, name,                routine
+	{ 1,       "First meadow",        BuildLevel001 },
+	{ 2,       "Bot by the barn",     BuildLevel002 },
+	{ 3,       "Cats and cowpens",    BuildLevel003 },
+	{ 4,       "Barrel yard",         BuildLevel004 },
+	{ 5,       "Bluebird rails",      BuildLevel005 },
+	{ 6,       "Last snow",           BuildLevel006 },
+	{ 7,       "Frog pond",           BuildLevel007 },
+	{ 8,       "Monkey run",          BuildLevel008 },
+	{ 9,       "Sleepers at sunset",  BuildLevel009 },
+	{ 10,      "Paddocks at dusk",    BuildLevel010 },
+	{ 11,      "Woods by night",      BuildLevel011 },
+	{ 26,      "Fourfold lock",       BuildLevel026 },
 };
 // clang-format on
 

@@ -262,7 +262,7 @@ void CControllerLevelTally::ShowAnimal(int index)
 	const int foot    = animalsTop + TITLE_HEIGHT + rowHigh * (index / columns + 1);
 
 	const std::string file =
-	    std::string("postlevel_animal_") + SpeciesPrefix(speciesList[index]) + ".png";
+	    std::string("postlevel_animal_") + SpeciesBubbleWord(speciesList[index]) + ".png";
 	Put(file, middle - PictureWidth(file) / 2 - 6, foot - PictureHeight(file) - (rows == 1) * 14);
 	const int x = middle + 4, y = foot - PictureHeight("postlevel_tallynumbers_x.png");
 	Put("postlevel_tallynumbers_x.png", x, y);

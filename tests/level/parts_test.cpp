@@ -1,6 +1,8 @@
 // The words of level routines: what they make.
 #include "level/parts.h"
 
+#include "animals/species_numbers.h"
+#include "animals/stampede.h"
 #include "support/field_test.h"
 
 class PartsTest : public FieldTest
@@ -75,4 +77,15 @@ TEST_F(PartsTest, RingHasAPostForEachSectionAndEveryPostHoldsTwo)
 		ASSERT_NE(nullptr, fence->rightPost);
 		EXPECT_EQ(2u, fence->leftPost->sections.size());
 	}
+}
+
+TEST_F(PartsTest, AHerdIsMadeInTheOrderOfItsList)
+{
+	Herd(SPECIES_SHEEP, {{690, 300, -2.8f}, {720, 250, -2.4f}, {730, 370, -2.3f}});
+	ASSERT_EQ(3u, CElementStampede::StampedeList.size());
+	EXPECT_EQ(SPECIES_SHEEP, CElementStampede::stampedeSpecies);
+	const CElementStampede* second = CElementStampede::StampedeList[1];
+	EXPECT_EQ(-2.4f, second->speedX);
+	EXPECT_NEAR(720, second->CentreX(), 0.5);
+	EXPECT_NEAR(250, second->CentreY(), 0.5);
 }

@@ -1,9 +1,6 @@
 // Benchmarks that hold the speed goals; each figure is also told as a share of a 33 ms frame.
 #include "animals/animal.h"
-#include "animals/butterfly.h"
-#include "animals/duck.h"
-#include "animals/monkey.h"
-#include "animals/sheep.h"
+#include "bench/rounds.h"
 #include "drive/bot.h"
 #include "field/background.h"
 #include "field/ball.h"
@@ -22,10 +19,8 @@
 #include "state/game_data.h"
 #include "support/world.h"
 
-#include <algorithm>
 #include <benchmark/benchmark.h>
 #include <chrono>
-#include <cstdio>
 #include <cstdlib>
 #include <ctime>
 #include <filesystem>
@@ -33,47 +28,7 @@
 #include <memory>
 #include <vector>
 
-static const double FRAME_MS = 33;
 static std::string s_toolFolder; // where drive lies
-
-// Times of single rounds, for their median and 99th percentile.
-class CRounds
-{
-public:
-	void Begin() { start = std::chrono::steady_clock::now(); }
-	void End(benchmark::State& state)
-	{
-		std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;
-		state.SetIterationTime(time.count());
-		milliseconds.push_back(time.count() * 1000);
-	}
-	void Report(benchmark::State& state)
-	{
-		std::sort(milliseconds.begin(), milliseconds.end());
-		double median                  = milliseconds[milliseconds.size() / 2];
-		state.counters["median_ms"]    = median;
-		state.counters["p99_ms"]       = milliseconds[milliseconds.size() * 99 / 100];
-		state.counters["frame_share%"] = median / FRAME_MS * 100;
-	}
-
-private:
-	std::chrono::steady_clock::time_point start;
-	std::vector<double> milliseconds;
-};
-
-// Megabytes that the process holds now.
-static double ResidentMegabytes()
-{
-	std::ifstream status("/proc/self/status");
-	for (std::string word; status >> word;) {
-		if (word != "VmRSS:")
-			continue;
-		double kilobytes = 0;
-		status >> kilobytes;
-		return kilobytes / 1024;
-	}
-	return 0;
-}
 
 static void PresentFrame()
 {
@@ -89,6 +44,8 @@ public:
 	CRunningLevel()
 	{
 		SeedRandom(5);
+		g_gameData->SetInstructionsSeen(); // no page comes up over the level
+		g_gameData->SetHintPagesOn(false);
 		game = new CControllerGame(1);
 		game->Activate(nullptr, true);
 	}
@@ -194,32 +151,6 @@ static void PhysicsAmong400Crates(benchmark::State& state)
 	ClearField();
 }
 BENCHMARK(PhysicsAmong400Crates)->UseManualTime()->Iterations(4000)->Unit(benchmark::kMillisecond);
-
-static void FieldTickOf60Animals(benchmark::State& state)
-{
-	CWorld world;
-	SeedRandom(5);
-	g_gameData->OnLevelStart(1);
-	for (int i = 0; i < 12; i++)
-		Crate(60 + i * 50, 160 + i % 3 * 20);
-	for (int i = 0; i < 15; i++) {
-		int x = 40 + i * 43;
-		new CSheep(x, 220, i & 1);
-		new CMonkey(x, 290, i & 1);
-		new CDuck(x, 350, i & 1);
-		new CButterfly(x, 420, i & 1);
-	}
-	CRounds rounds;
-	for (auto _ : state) {
-		rounds.Begin();
-		FieldTick();
-		rounds.End(state);
-	}
-	rounds.Report(state);
-	state.counters["obstacles"] = CElement::ObstaclePointList.size();
-	ClearField();
-}
-BENCHMARK(FieldTickOf60Animals)->UseManualTime()->Iterations(3000)->Unit(benchmark::kMillisecond);
 
 static void FullRepaint(benchmark::State& state)
 {

@@ -3,19 +3,20 @@
 
 #include "drive/fields.h"
 #include "drive/picture.h"
+#include "drive/zoo.h"
 #include "frame/controller.h"
 #include "frame/random.h"
+#include "level/level_catalogue.h"
 #include "media/display.h"
-#include "media/input.h"
+#include "screens/game.h"
 #include "screens/main_menu.h"
+#include "state/game_data.h"
 
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <strings.h>
+#include <filesystem>
 
 static const int UNTIL_FRAMES   = 3000; // an until waits so long by default
-static const int CLICK_FRAMES   = 3;    // move, press, release
 static const int LEVEL_PATIENCE = 900;  // frames until a menu must have come up
 static const int SKIP_EVERY     = 20;   // frames between two keys that skip the splash
 
@@ -92,6 +93,10 @@ bool CDriver::Execute(const ScriptCommand& command)
 		return StepUntil(command);
 	if (word == "level")
 		return StepLevel(command);
+	if (word == "zoo")
+		return StepZoo(command);
+	if (word == "film")
+		return StepFilm(command);
 	if (word == "expect")
 		Expect(command);
 	else if (word == "show")
@@ -100,6 +105,8 @@ bool CDriver::Execute(const ScriptCommand& command)
 		Stop(EXIT_SCRIPT_ERROR, command, "cannot write the picture");
 	else if (word == "dump" && !DumpField(PathOf(command.args[0])))
 		Stop(EXIT_SCRIPT_ERROR, command, "cannot write the file");
+	else if (word == "act")
+		Act(command);
 	else if (word == "bot")
 		botOn = command.args[0] == "on";
 	else if (word == "seed" && ParseInt(command, 0, number))
@@ -110,63 +117,6 @@ bool CDriver::Execute(const ScriptCommand& command)
 		SDL_PushEvent(&event);
 	}
 	return !stopped;
-}
-
-bool CDriver::StepMouse(const ScriptCommand& command)
-{
-	int x = 0, y = 0;
-	if (command.word == "move") {
-		if (!ParseInt(command, 0, x) || !ParseInt(command, 1, y))
-			return false;
-		PushMotion(x, y);
-		return true;
-	}
-	if (command.args[0] != "left" && command.args[0] != "right") {
-		Stop(EXIT_SCRIPT_ERROR, command, "left or right");
-		return false;
-	}
-	PushButton(command.args[0] == "left", command.word == "press");
-	return true;
-}
-
-// A frame between the steps: focus follows the pointer once a frame.
-bool CDriver::StepClick(const ScriptCommand& command)
-{
-	int x = 0, y = 0;
-	if (!ParseInt(command, 0, x) || !ParseInt(command, 1, y))
-		return false;
-	if (waited == 0)
-		PushMotion(x, y);
-	else if (waited == 1)
-		PushButton(true, true);
-	else if (waited == 2)
-		PushButton(true, false);
-	return waited >= CLICK_FRAMES;
-}
-
-static SDLKey KeyOfName(const std::string& name)
-{
-	for (int key = SDLK_FIRST + 1; key < SDLK_LAST; key++)
-		if (!strcasecmp(name.c_str(), SDL_GetKeyName(static_cast<SDLKey>(key))))
-			return static_cast<SDLKey>(key);
-	return SDLK_UNKNOWN;
-}
-
-bool CDriver::StepKey(const ScriptCommand& command)
-{
-	std::string name;
-	for (const std::string& part : command.args)
-		name += (name.empty() ? "" : " ") + part;
-	SDLKey key = KeyOfName(name);
-	if (key == SDLK_UNKNOWN) {
-		Stop(EXIT_SCRIPT_ERROR, command, "no such key");
-		return false;
-	}
-	if (command.word != "let")
-		PushKey(key, true);
-	if (command.word != "hold")
-		PushKey(key, false);
-	return true;
 }
 
 bool CDriver::StepUntil(const ScriptCommand& command)
@@ -213,14 +163,17 @@ void CDriver::Show(const ScriptCommand& command)
 	}
 }
 
-// The front door may still be hidden behind the splash: keys skip it.
 bool CDriver::StepLevel(const ScriptCommand& command)
 {
 	int number = 0;
-	if (!ParseInt(command, 0, number))
-		return false;
+	return ParseInt(command, 0, number) && StepStart(command, number);
+}
+
+// The front door may still be hidden behind the splash: keys skip it.
+bool CDriver::StepStart(const ScriptCommand& command, int level)
+{
 	if (CControllerMain* menu = dynamic_cast<CControllerMain*>(g_currentController)) {
-		menu->StartLevel(number);
+		menu->StartLevel(level);
 		return true;
 	}
 	if (waited >= LEVEL_PATIENCE)
@@ -230,49 +183,41 @@ bool CDriver::StepLevel(const ScriptCommand& command)
 	return false;
 }
 
-void CDriver::RunBot()
+// In the level that runs, else in one of its own without screens over it.
+bool CDriver::StepZoo(const ScriptCommand& command)
 {
-	bool playing = bot.Think();
-	if (playing && bot.mouseX != g_input->x)
-		PushMotion(bot.mouseX, 500);
-	bool wanted = playing && bot.buttonDown;
-	if (wanted != botPressed)
-		PushButton(true, wanted);
-	botPressed = wanted;
+	std::string problem;
+	if (!g_game) {
+		g_gameData->SetInstructionsSeen();
+		g_gameData->SetHintPagesOn(false);
+	}
+	if (!g_game && !StepStart(command, FIRST_LEVEL))
+		return false;
+	if (BuildZoo(g_game, command.args, problem))
+		return true;
+	Stop(EXIT_SCRIPT_ERROR, command, problem);
+	return false;
 }
 
-void CDriver::PushMotion(int x, int y)
+void CDriver::Act(const ScriptCommand& command)
 {
-	SDL_Event event   = {};
-	event.type        = SDL_MOUSEMOTION;
-	event.motion.x    = static_cast<Uint16>(std::clamp(x, 0, 799));
-	event.motion.y    = static_cast<Uint16>(std::clamp(y, 0, 599));
-	float speed       = std::max(g_input->speed, 0.01f);
-	event.motion.xrel = static_cast<Sint16>((x - g_input->x) / speed);
-	event.motion.yrel = static_cast<Sint16>((y - g_input->y) / speed);
-	SDL_PushEvent(&event);
+	std::string problem;
+	if (!ForceAction(command.args[0], command.args[1], problem))
+		Stop(EXIT_SCRIPT_ERROR, command, problem);
 }
 
-void CDriver::PushButton(bool left, bool down)
+// A frame is on the screen only after it has passed.
+bool CDriver::StepFilm(const ScriptCommand& command)
 {
-	SDL_Event event     = {};
-	event.type          = down ? SDL_MOUSEBUTTONDOWN : SDL_MOUSEBUTTONUP;
-	event.button.button = left ? SDL_BUTTON_LEFT : SDL_BUTTON_RIGHT;
-	event.button.state  = down ? SDL_PRESSED : SDL_RELEASED;
-	event.button.x      = static_cast<Uint16>(g_input->x);
-	event.button.y      = static_cast<Uint16>(g_input->y);
-	SDL_PushEvent(&event);
-}
-
-void CDriver::PushKey(SDLKey key, bool down)
-{
-	int modifier = key == SDLK_LALT ? KMOD_LALT : key == SDLK_RALT ? KMOD_RALT : 0;
-	modifiers    = down ? modifiers | modifier : modifiers & ~modifier;
-
-	SDL_Event event      = {};
-	event.type           = down ? SDL_KEYDOWN : SDL_KEYUP;
-	event.key.state      = down ? SDL_PRESSED : SDL_RELEASED;
-	event.key.keysym.sym = key;
-	event.key.keysym.mod = static_cast<SDLMod>(modifiers);
-	SDL_PushEvent(&event);
+	int count = 0;
+	if (!ParseInt(command, 1, count))
+		return false;
+	std::string folder = PathOf(command.args[0]);
+	std::error_code failed;
+	std::filesystem::create_directories(folder, failed);
+	char name[20];
+	std::snprintf(name, sizeof name, "/%05d.png", waited - 1);
+	if (waited > 0 && !SaveScreen(folder + name))
+		Stop(EXIT_SCRIPT_ERROR, command, "cannot write the picture");
+	return waited >= count;
 }

@@ -36,6 +36,10 @@ private:
 	bool StepKey(const ScriptCommand& command);
 	bool StepUntil(const ScriptCommand& command);
 	bool StepLevel(const ScriptCommand& command);
+	bool StepStart(const ScriptCommand& command, int level);
+	bool StepZoo(const ScriptCommand& command);
+	bool StepFilm(const ScriptCommand& command);
+	void Act(const ScriptCommand& command);
 	void Expect(const ScriptCommand& command);
 	void Show(const ScriptCommand& command);
 	void RunBot();

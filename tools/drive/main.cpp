@@ -1,11 +1,13 @@
 // drive: the real program, headless and on a clock of its own, played from a script.
 #include "drive/driver.h"
 #include "drive/recorder.h"
+#include "drive/roster.h"
 
 #include "frame/clock.h"
 #include "frame/program.h"
 #include "sound/sound_output.h"
 #include "state/save_folder.h"
+#include "support/temp_folder.h"
 
 #include <SDL.h>
 #include <cstdio>
@@ -18,12 +20,16 @@
 static const char* s_usage =
     "usage: drive [--mode N] [--seed S] [--home DIR] [--data DIR] [--realtime]\n"
     "             [--sound FILE.wav] SCRIPT\n"
+    "       drive roster [--data DIR]        prints what stands in every level\n"
+    "       drive sheet DIR [--data DIR]     paints every level's picture to DIR/level_NNN.png\n"
     "SCRIPT is a file, or - for standard input. --mode as the game's own argument; --home is the\n"
     "per-user folder; --sound records what would be heard. Exit 0; 1 when an until or expect "
-    "fails; 2 for an error in the script.\n";
+    "fails; 2 for an error in the script. Its commands, one a line:\n";
 
 struct DriveOptions {
 	std::string mode, home, script, sound;
+	std::string sheetFolder;
+	bool roster       = false; // or sheet
 	std::string data  = QUORBLET_DATA;
 	unsigned int seed = 1;
 	bool realtime     = false;
@@ -44,14 +50,19 @@ static bool ParseOptions(int argc, char** argv, DriveOptions& options)
 			options.data = std::filesystem::absolute(argv[++i]);
 		else if (word == "--sound" && more)
 			options.sound = std::filesystem::absolute(argv[++i]);
-		else if (word == "--realtime")
+		else if (word == "roster" && i == 1)
+			options.roster = true;
+		else if (word == "sheet" && i == 1 && more) {
+			options.roster      = true;
+			options.sheetFolder = std::filesystem::absolute(argv[++i]);
+		} else if (word == "--realtime")
 			options.realtime = true;
 		else if (options.script.empty() && (word == "-" || word[0] != '-'))
 			options.script = word;
 		else
 			return false;
 	}
-	return !options.script.empty();
+	return options.roster || !options.script.empty();
 }
 
 static bool LoadScript(const std::string& name, std::vector<ScriptCommand>& script)
@@ -71,15 +82,37 @@ static bool LoadScript(const std::string& name, std::vector<ScriptCommand>& scri
 	return false;
 }
 
+static bool EnterDataFolder(const DriveOptions& options)
+{
+	std::error_code missing;
+	std::filesystem::current_path(options.data, missing);
+	if (missing)
+		std::fprintf(stderr, "no data folder %s\n", options.data.c_str());
+	return !missing;
+}
+
+// In a player's folder of its own, which goes with it.
+static int WalkLevels(const DriveOptions& options)
+{
+	if (!EnterDataFolder(options))
+		return EXIT_SCRIPT_ERROR;
+	CTempFolder home;
+	SetSaveFolderRoot(home.path);
+	setenv("SDL_VIDEODRIVER", "dummy", 0);
+	ChooseSoundOutput(SOUND_OUTPUT_NONE);
+	CVirtualClock clock;
+	g_clock = &clock;
+	CRoster roster(&clock, options.sheetFolder);
+	char* arguments[] = {nullptr};
+	RunProgram(ParseMode(0, arguments), options.seed, &roster);
+	return roster.failed ? EXIT_FAILED_EXPECTATION : 0;
+}
+
 static int Play(const DriveOptions& options, const std::vector<ScriptCommand>& script)
 {
 	std::string folder = std::filesystem::current_path();
-	std::error_code missing;
-	std::filesystem::current_path(options.data, missing);
-	if (missing) {
-		std::fprintf(stderr, "no data folder %s\n", options.data.c_str());
+	if (!EnterDataFolder(options))
 		return EXIT_SCRIPT_ERROR;
-	}
 	if (!options.home.empty())
 		SetSaveFolderRoot(options.home);
 	setenv("SDL_VIDEODRIVER", "dummy", 0);
@@ -115,9 +148,11 @@ int main(int argc, char** argv)
 	DriveOptions options;
 	std::vector<ScriptCommand> script;
 	if (!ParseOptions(argc, argv, options)) {
-		std::fputs(s_usage, stderr);
+		std::fputs((s_usage + ScriptUsage()).c_str(), stderr);
 		return EXIT_SCRIPT_ERROR;
 	}
+	if (options.roster)
+		return WalkLevels(options);
 	if (!LoadScript(options.script, script))
 		return EXIT_SCRIPT_ERROR;
 	return Play(options, script);

@@ -29,6 +29,9 @@ static const CommandForm s_forms[] = {
 	{ "shot",    1,   1,   "shot FILE.png" },
 	{ "dump",    1,   1,   "dump FILE" },
 	{ "level",   1,   1,   "level N" },
+	{ "zoo",     1,   ANY, "zoo [grass|sand|snow|night] [left|right] SPECIES...|all" },
+	{ "act",     2,   2,   "act SPECIES WORD|bump" },
+	{ "film",    2,   2,   "film FOLDER N" },
 	{ "bot",     1,   1,   "bot on|off" },
 	{ "seed",    1,   1,   "seed S" },
 	{ "quit",    0,   0,   "quit" },
@@ -41,6 +44,14 @@ static const CommandForm* FindForm(const std::string& word)
 		if (word == form.word)
 			return &form;
 	return nullptr;
+}
+
+std::string ScriptUsage()
+{
+	std::string text;
+	for (const CommandForm& form : s_forms)
+		text += std::string("  ") + form.usage + "\n";
+	return text;
 }
 
 static bool CheckForm(const ScriptCommand& command, std::string& problem)

@@ -15,3 +15,6 @@ struct ScriptCommand {
 // Reads all commands; blank lines and what follows a # are left out. On a command that does not
 // exist or has the wrong number of arguments it returns false and tells the line in problem.
 bool ReadScript(std::istream& in, std::vector<ScriptCommand>& script, std::string& problem);
+
+// One line for each command.
+std::string ScriptUsage();

@@ -1,4 +1,4 @@
-// Levels 1 to 10: the first meadows.
+// Level 1: the first meadow.
 #include "level/levels.h"
 
 #include "animals/butterfly.h"
