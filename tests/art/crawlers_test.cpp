@@ -180,8 +180,9 @@ TEST(Saucer, NothingIsCutByItsCanvas)
 		bool pilot = StartsWith(name, "alienufo");
 		for (int x = 0; x < image.width; x++) {
 			EXPECT_LT(image.At(x, 0)[3], .6f) << name;
-			if (!pilot)
+			if (!pilot) {
 				EXPECT_LT(image.At(x, image.height - 1)[3], .6f) << name;
+			}
 		}
 		for (int y = 0; y < image.height; y++) {
 			EXPECT_LT(image.At(0, y)[3], .6f) << name;
