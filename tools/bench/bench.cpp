@@ -30,7 +30,7 @@
 
 static std::string s_toolFolder; // where drive lies
 
-static void PresentFrame()
+void PresentFrame()
 {
 	PlaceCursor();
 	g_render->Update(true);

@@ -36,6 +36,9 @@ private:
 	std::vector<double> milliseconds;
 };
 
+// One frame as the main loop shows it, without the wait for its end.
+void PresentFrame();
+
 // Megabytes that the process holds now.
 inline double ResidentMegabytes()
 {

@@ -3,7 +3,9 @@
 
 #include "drive/picture.h"
 
+#include "animals/stampede.h"
 #include "field/background.h"
+#include "field/crate.h"
 #include "field/element.h"
 #include "field/element_point.h"
 #include "frame/controller.h"
@@ -99,6 +101,34 @@ static const char* Word(int value, const std::vector<const char*>& words)
 	return value >= 0 && value < static_cast<int>(words.size()) ? words[value] : "?";
 }
 
+// What the crates hold, in the columns fruit_crates, coin_crates, barrels, power_ups.
+static std::string CratesText()
+{
+	static const char* const PRIZES[] = {"",        "money",     "double",    "triple", "quadruple",
+	                                     "barrier", "bulldozer", "destructo", "fast",   "gravity",
+	                                     "grow",    "wide",      "life",      "rain",   "shrink",
+	                                     "slow",    "sticky",    "fans"};
+	int fruit = 0, coins = 0, barrels = 0;
+	std::map<int, int> prizes;
+	for (const CCrate* crate : CCrate::CrateList) {
+		barrels += crate->barrel;
+		if (crate->containsPowerup)
+			prizes[crate->contents]++;
+		else if (crate->contents == POINT_COIN)
+			coins++;
+		else if (crate->contents)
+			fruit++;
+	}
+	std::string text;
+	for (const auto& [kind, count] : prizes) {
+		text += (text.empty() ? "" : ", ") + std::string(PRIZES[kind]);
+		if (count > 1)
+			text += " x" + std::to_string(count);
+	}
+	return std::to_string(fruit) + "\t" + std::to_string(coins) + "\t" + std::to_string(barrels) +
+	       "\t" + (text.empty() ? "-" : text);
+}
+
 // Animals by class; the herd and loose fruit by number.
 static std::string GuestsText(std::map<std::string, int>& counts)
 {
@@ -111,6 +141,8 @@ static std::string GuestsText(std::map<std::string, int>& counts)
 	std::string text;
 	for (const auto& [name, count] : counts)
 		text += (text.empty() ? "" : ", ") + name.substr(1) + " " + std::to_string(count);
+	if (!CElementStampede::StampedeList.empty())
+		text += " of species " + std::to_string(CElementStampede::stampedeSpecies);
 	return text.empty() ? "-" : text;
 }
 
@@ -119,7 +151,7 @@ void CRoster::PrintRow() const
 	if (next == 0)
 		std::printf(
 		    "level\tname\tkind\ttime\tground\tsky\tcrates\tfences\ttrees\trocks\tcacti\tdrums\t"
-		    "coins\tanimals\n");
+		    "coins\tfruit_crates\tcoin_crates\tbarrels\tpower_ups\tanimals\n");
 	std::map<std::string, int> counts;
 	int coins = 0;
 	for (const CElement* element : CElement::ElementList) {
@@ -136,6 +168,6 @@ void CRoster::PrintRow() const
 	                            "dusk", "night"}),
 	            counts["CCrate"], counts["CFence"], counts["CTree"], counts["CRock"],
 	            counts["CCactus"], counts["CDrum"], coins);
-	std::printf("%s\n", GuestsText(counts).c_str());
+	std::printf("%s\t%s\n", CratesText().c_str(), GuestsText(counts).c_str());
 	std::fflush(stdout);
 }
