@@ -5,7 +5,7 @@
 
 // clang-format off
 static const LevelEntry s_levels[] = {
-	// number, name,                routine
+	// number, name,                  routine
 	{ 1,       "First meadow",        BuildLevel001 },
 	{ 2,       "Bot by the barn",     BuildLevel002 },
 	{ 3,       "Cats and cowpens",    BuildLevel003 },
@@ -17,7 +17,15 @@ static const LevelEntry s_levels[] = {
 	{ 9,       "Sleepers at sunset",  BuildLevel009 },
 	{ 10,      "Paddocks at dusk",    BuildLevel010 },
 	{ 11,      "Woods by night",      BuildLevel011 },
+	{ 12,      "Crate storm",         BuildLevel012 },
+	{ 15,      "Coin fountain",       BuildLevel015 },
+	{ 21,      "Bird sanctuary",      BuildLevel021 },
+	{ 23,      "First saucer",        BuildLevel023 },
 	{ 26,      "Fourfold lock",       BuildLevel026 },
+	{ 43,      "Night harvest",       BuildLevel043 },
+	{ 55,      "Between the stones",  BuildLevel055 },
+	{ 67,      "Pinball orchard",     BuildLevel067 },
+	{ 73,      "Hill hen house",      BuildLevel073 },
 };
 // clang-format on
 

@@ -18,10 +18,11 @@
 static const float BUMPER_MIDDLE   = 36;  // from the paddle's x, pixels
 static const float BUMPER_TOP      = 520; // y where the ball meets the bumper
 static const float WINDOW_TO_FIELD = 693.0f / 800.0f;
-static const float BODY_SHIFT      = 38; // the mouse stands this far right of the paddle's x
-static const float STEEPEST_OFFSET = 26; // the bumper's outer parts throw the ball too flat
-static const float OFFSET_PER_TURN = 5;  // pixels that the aim wanders
-static const int LAUNCH_WAIT       = 12; // frames the ball is held before a launch
+static const float BODY_SHIFT      = 38;    // the mouse stands this far right of the paddle's x
+static const float STEEPEST_OFFSET = 26;    // the bumper's outer parts throw the ball too flat
+static const float OFFSET_PER_TURN = 5;     // pixels that the aim wanders
+static const float FLATTER_BY      = 0.08f; // of the offset, each turn of five
+static const int LAUNCH_WAIT       = 12;    // frames the ball is held before a launch
 static const int PRESS_FRAMES      = 2;
 static const int PRIZE_ROOM        = 25; // frames that a detour to a prize needs
 
@@ -143,8 +144,10 @@ float CBot::BumperOffsetFor(float fromX, const CElement* target) const
 	if (!target)
 		return wander;
 	float slope  = (target->x + 12 - fromX) / std::max(BUMPER_TOP - target->y, 40.0f);
-	float offset = slope * 30 + wander * 0.4f;
-	return std::clamp(offset, -STEEPEST_OFFSET, STEEPEST_OFFSET);
+	float offset = std::clamp(slope * 30, -STEEPEST_OFFSET, STEEPEST_OFFSET);
+	// Also at its steepest the aim must not come out the same each time, or the ball goes back and
+	// forth on one line for good.
+	return offset * (1 - FLATTER_BY * static_cast<float>(turn % 5)) + wander * 0.4f;
 }
 
 float CBot::AnchorForPrize(bool& found) const

@@ -31,13 +31,13 @@ void BuildLevel005(CControllerGame*)
 	new CChicken(180, 338, RIGHT);
 	new CChicken(222, 350, LEFT);
 	new CChicken(262, 336, LEFT);
-	new CCow(500, 350, LEFT);
-	new CCow(600, 372, LEFT);
+	new CCow(506, 332, LEFT);
+	new CCow(600, 340, LEFT);
 	new CBot(340, 250, RIGHT);
-	CDuck* duck = new CDuck(420, 430, RIGHT);
-	new CDuckling(402, 428, duck);
-	new CDuckling(388, 426, duck);
-	new CDuckling(374, 424, duck);
+	CDuck* duck = new CDuck(440, 396, RIGHT);
+	new CDuckling(422, 394, duck);
+	new CDuckling(408, 392, duck);
+	new CDuckling(394, 390, duck);
 
 	new CButterfly(250, 250, LEFT);
 	new CButterfly(80, 400, RIGHT);
@@ -54,7 +54,7 @@ void BuildLevel005(CControllerGame*)
 	new CTree(-40, 440, TREE_ORANGE, 2, 1);
 	new CTree(380, 164, TREE_ORANGE, 0, 0);
 	new CMonkey(90, 250, RIGHT);
-	new CMonkey(552, 444, LEFT);
+	new CMonkey(500, 420, LEFT);
 
 	// Before the field.
 	new CTree(-34, 656, TREE_GREEN, 2, 0);
@@ -74,7 +74,7 @@ void BuildLevel005(CControllerGame*)
 
 	// What belongs to the tower: a store beside it, two crates before it.
 	CCrate* pile = Crate(604, 246);
-	Stack({pile, CoinCrate(606, 246, 1)});
+	Stack({pile, CoinCrate(606, 246, 1), Crate(604, 246, 2)});
 	Crate(538, 264);
 	Crate(582, 270);
 
@@ -83,13 +83,11 @@ void BuildLevel005(CControllerGame*)
 	Stack({bale, Crate(396, 312, 1)});
 	Crate(438, 318);
 	AppleCrate(50, 318);
-	Crate(50, 350);
-	Crate(28, 378);
-	Crate(340, 402);
-	Crate(384, 406);
-	CCrate* last = CoinCrate(650, 430);
-	Stack({last, PrizeCrate(648, 430, POWERUP_DOUBLE, 1)});
-	Crate(606, 434);
+	CCrate* straw = Crate(50, 350);
+	Stack({straw, Crate(51, 350, 1)});
+	CCrate* last = CoinCrate(650, 400);
+	Stack({last, PrizeCrate(648, 400, POWERUP_DOUBLE, 1)});
+	Crate(606, 404);
 
 	// Barrels: two rows at the run's lower rail, two by the tower, some to reach for.
 	Barrel(130, 412);
@@ -100,7 +98,7 @@ void BuildLevel005(CControllerGame*)
 	Barrel(500, 260);
 	Barrel(468, 264);
 	PrizeBarrel(420, 232, POWERUP_GROW);
-	Barrel(500, 436);
+	Barrel(560, 404);
 
 	new CBlueBird(rail[1], RIGHT);
 	new CBlueBird(rail[3], RIGHT);

@@ -92,7 +92,7 @@ void BuildLevel006(CControllerGame*)
 	Barrel(474, 300);
 	Barrel(506, 292);
 	Barrel(538, 284);
-	Barrel(552, 206);
+	Barrel(430, 214);
 	Barrel(568, 424);
 	Barrel(536, 430);
 

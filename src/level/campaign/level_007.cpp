@@ -14,13 +14,6 @@
 #include "field/tree.h"
 #include "level/fence_shapes.h"
 
-// A neat store: feet in a row, one or two above.
-static CCrate* Store(int x, int y, CCrate* second, CCrate* third)
-{
-	CCrate* foot = Crate(x, y);
-	return third ? Stack({foot, second, third}) : Stack({foot, second});
-}
-
 // Level 7, "Frog pond" (regular). Late afternoon.
 // Picture: a wide ring is the pond, five frogs and the ducks within; a jetty from the right; neat
 //          stores in the four corners.
@@ -75,20 +68,21 @@ void BuildLevel007(CControllerGame*)
 	FenceSections jetty = Line(482, 240, 4);
 
 	// Upper left and right: stairs up to the pond.
-	CCrate* perchLeft = Store(194, 190, PrizeCrate(194, 190, POWERUP_MONEY, 1), Crate(195, 190, 2));
-	Store(150, 192, CoinCrate(150, 192, 1), nullptr);
+	CCrate* perchLeft =
+	    Stack({Crate(194, 190), PrizeCrate(194, 190, POWERUP_MONEY, 1), Crate(195, 190, 2)});
+	Stack({Crate(150, 192), CoinCrate(150, 192, 1)});
 	Crate(106, 196);
 	CCrate* perchRight =
-	    Store(498, 190, PrizeCrate(499, 190, POWERUP_TRIPLE, 1), Crate(498, 190, 2));
-	Store(542, 192, CoinCrate(542, 192, 1), nullptr);
+	    Stack({Crate(498, 190), PrizeCrate(499, 190, POWERUP_TRIPLE, 1), Crate(498, 190, 2)});
+	Stack({Crate(542, 192), CoinCrate(542, 192, 1)});
 	Crate(586, 196);
 
 	// Lower left and right.
-	Store(44, 425, PrizeCrate(45, 425, POWERUP_TRIPLE, 1), Crate(44, 425, 2));
-	Store(88, 429, AppleCrate(88, 429, 1), nullptr);
+	Stack({Crate(44, 425), PrizeCrate(45, 425, POWERUP_TRIPLE, 1), Crate(44, 425, 2)});
+	Stack({Crate(88, 429), AppleCrate(88, 429, 1)});
 	CoinCrate(132, 433);
-	Store(650, 425, PrizeCrate(649, 425, POWERUP_GROW, 1), Crate(650, 425, 2));
-	Store(606, 429, AppleCrate(606, 429, 1), nullptr);
+	Stack({Crate(650, 425), PrizeCrate(649, 425, POWERUP_GROW, 1), Crate(650, 425, 2)});
+	Stack({Crate(606, 429), AppleCrate(606, 429, 1)});
 	CoinCrate(562, 433);
 
 	// Where the jetty meets the land, and on the left bank.

@@ -68,14 +68,14 @@ void BuildLevel010(CControllerGame*)
 	CCrate* beside = CoinCrate(302, 194);
 	Stack({beside, Crate(303, 194, 1)});
 	Crate(390, 194);
-	CCrate* bale = AppleCrate(40, 300);
+	CCrate* bale = Crate(40, 300);
 	Stack({bale, Crate(42, 300, 1)});
 	Crate(60, 440);
 	CCrate* load = CoinCrate(656, 262);
 	Stack({load, PrizeCrate(655, 262, POWERUP_TRIPLE, 1)});
 	AppleCrate(646, 434);
 	CoinCrate(384, 436);
-	Crate(346, 300);
+	AppleCrate(346, 300);
 
 	// What stands inside the front paddock.
 	Crate(500, 400);

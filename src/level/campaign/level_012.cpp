@@ -5,13 +5,13 @@
 #include "level/fence_shapes.h"
 #include "screens/game.h"
 
-static const int MIDDLE = 346;
+static const int MIDDLE      = 346;
 static const int CRATE_PITCH = 44, CRATES_IN_WALL = 15;
 static const int BARREL_PITCH = 32, BARRELS_IN_WALL = 20;
 static const int FAR_WALL = 186, MIDDLE_WALL = 253, NEAR_WALL = 318; // y
-static const int EYE_LEFT = 2, EYE_RIGHT = 12;       // columns of the far wall's windows
-static const int NARROW_LEFT = 5, NARROW_RIGHT = 9;  // and of the middle wall's
-static const int LENS_FROM = 5, LENS_TO = 14;        // barrels that stand double
+static const int EYE_LEFT = 2, EYE_RIGHT = 12;      // columns of the far wall's windows
+static const int NARROW_LEFT = 5, NARROW_RIGHT = 9; // and of the middle wall's
+static const int LENS_FROM = 5, LENS_TO = 14;       // barrels that stand double
 
 static int CrateX(int column)
 {
@@ -38,13 +38,13 @@ static void FarWall()
 		const int x    = CrateX(column);
 		const int away = FromNearest(column, EYE_LEFT, EYE_RIGHT);
 		if (away > 2) {
-			Pile(x, FAR_WALL, column % 2 ? CoinCrate(x, FAR_WALL, 1) : Crate(x, FAR_WALL, 1));
+			Pile(x, FAR_WALL, column % 2 ? Crate(x, FAR_WALL, 1) : CoinCrate(x, FAR_WALL, 1));
 			continue;
 		}
 		const int parted = 18 - away * 5;
-		Pile(x, FAR_WALL - parted, Crate(x, FAR_WALL - parted, 1));
-		Pile(x, FAR_WALL + parted,
-		     away == 1 ? CoinCrate(x, FAR_WALL + parted, 1) : Crate(x, FAR_WALL + parted, 1));
+		const int back = FAR_WALL - parted, front = FAR_WALL + parted;
+		Pile(x, back, away == 0 ? CoinCrate(x, back, 1) : Crate(x, back, 1));
+		Pile(x, front, away == 1 ? CoinCrate(x, front, 1) : Crate(x, front, 1));
 	}
 }
 

@@ -12,12 +12,12 @@ static const int FOUNTAIN_COINS = 20;
 static const int FOUNTAIN_X = 620, FOUNTAIN_Y = 375;
 
 // A ring with a strong-room in it: two rows of crates, a barrel for the lid.
-static void Basin(int x, int y, CCrate* leftUpper, CCrate* rightUpper)
+static void Basin(int x, int y, PowerupKind prize)
 {
 	Ring(x, y, 2, 2);
-	Stack({CoinCrate(x - 44, y - 12), leftUpper});
+	Stack({CoinCrate(x - 44, y - 12), PrizeCrate(x - 43, y - 12, POWERUP_MONEY, 1)});
 	Stack({CoinCrate(x, y - 14), CoinBarrel(x, y - 14, 1)});
-	Stack({AppleCrate(x + 44, y - 12), rightUpper});
+	Stack({AppleCrate(x + 44, y - 12), PrizeCrate(x + 43, y - 12, prize, 1)});
 	CoinCrate(x - 22, y + 14);
 	AppleCrate(x + 22, y + 14);
 }
@@ -26,12 +26,12 @@ static void Basin(int x, int y, CCrate* leftUpper, CCrate* rightUpper)
 static void Fountain()
 {
 	for (int i = 0; i < FOUNTAIN_COINS; i++) {
-		const int x    = RandomInt(FOUNTAIN_X - 5, FOUNTAIN_X + 5);
-		const int y    = RandomInt(FOUNTAIN_Y - 5, FOUNTAIN_Y + 5);
-		const int z    = RandomInt(5, 7);
-		const float vx = RandomFloat(-1, 1);
-		const float vy = RandomFloat(-1, 1);
-		const float vz = RandomFloat(8, 10);
+		const int x    = RandomWhole(FOUNTAIN_X - 5, FOUNTAIN_X + 5);
+		const int y    = RandomWhole(FOUNTAIN_Y - 5, FOUNTAIN_Y + 5);
+		const int z    = RandomWhole(5, 7);
+		const float vx = RandomRange(-1, 1);
+		const float vy = RandomRange(-1, 1);
+		const float vz = RandomRange(8, 10);
 		new CElementPoint(static_cast<float>(x), static_cast<float>(y), static_cast<float>(z),
 		                  POINT_COIN, vx, vy, vz);
 	}
@@ -73,10 +73,10 @@ void BuildLevel015(CControllerGame* game)
 
 	// The stones from which the spring comes.
 	new CRock(663, 300, 1, 3, false);
-	new CRock(656, 328, 2, 1, false);
+	new CRock(674, 326, 2, 1, false);
 
-	Basin(480, 325, PrizeCrate(436, 313, POWERUP_MONEY, 1), PrizeCrate(524, 313, POWERUP_GRAVITY, 1));
-	Basin(200, 325, PrizeCrate(156, 313, POWERUP_MONEY, 1), PrizeCrate(244, 313, POWERUP_STICKY, 1));
+	Basin(480, 325, POWERUP_GRAVITY);
+	Basin(200, 325, POWERUP_STICKY);
 
 	// From the spring to the near basin, and on to the far one.
 	Barrel(612, 428);

@@ -13,10 +13,10 @@ static const float RAYS_FROM_X = 346, RAYS_FROM_Y = 500;
 // Coins on the straight way from the paddle to a point, over the middle of the way.
 static void Ray(float toX, float toY, int coins)
 {
-	const float nearest = 0.2f, farthest = 0.68f; // parts of the way
+	const float nearest = 0.22f, farthest = 0.76f; // parts of the way
 	for (int i = 0; i < coins; i++) {
-		const float part = nearest + (farthest - nearest) * static_cast<float>(i) /
-		                                 static_cast<float>(coins - 1);
+		const float part =
+		    nearest + (farthest - nearest) * static_cast<float>(i) / static_cast<float>(coins - 1);
 		Coin(RAYS_FROM_X + (toX - RAYS_FROM_X) * part, RAYS_FROM_Y + (toY - RAYS_FROM_Y) * part);
 	}
 }
@@ -24,9 +24,9 @@ static void Ray(float toX, float toY, int coins)
 // Three stones below a perch keep straight shots off it.
 static void Guard(int x, int y)
 {
-	new CRock(x - 32, y - 4, 2, 0, false);
-	new CRock(x, y, 2, 1, false);
-	new CRock(x + 32, y - 4, 2, 2, false);
+	new CRock(x - 18, y, 2, 0, false);
+	new CRock(x + 18, y, 2, 2, false);
+	new CRock(x, y + 10, 2, 1, false);
 }
 
 // Level 21, "Bird sanctuary" (dodgeball, on the map 16). Noon.
@@ -67,8 +67,8 @@ void BuildLevel021(CControllerGame* game)
 	new CTree(634, 668, TREE_RED, 1, 0);
 	new CTree(708, 652, TREE_RED, 2, 1);
 
-	Guard(205, 232);
-	Guard(487, 232);
+	Guard(205, 230);
+	Guard(487, 230);
 
 	// The perches, from the left.
 	CCrate* perches[] = {Crate(120, 226), Crate(205, 196), Crate(300, 178),
@@ -87,9 +87,9 @@ void BuildLevel021(CControllerGame* game)
 	new CBlueBird(perches[4], LEFT);
 	new CCrow(perches[5], LEFT);
 
-	Ray(120, 180, 8);
-	Ray(250, 150, 7);
-	Ray(346, 150, 7);
-	Ray(442, 150, 7);
-	Ray(572, 180, 8);
+	Ray(162, 211, 8);
+	Ray(252, 187, 7);
+	Ray(346, 178, 7);
+	Ray(440, 187, 7);
+	Ray(530, 211, 8);
 }

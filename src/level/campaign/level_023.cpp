@@ -80,7 +80,7 @@ void BuildLevel023(CControllerGame*)
 	Stack({Crate(582, 344), PrizeCrate(581, 344, POWERUP_GROW, 1)});
 	Crate(626, 352);
 	Barrel(514, 326);
-	Barrel(654, 434);
+	Barrel(610, 434);
 
 	// Thrown toward the player, left and right of the gate.
 	Stack({CoinCrate(230, 380), PrizeCrate(231, 380, POWERUP_FAST, 1)});
@@ -88,8 +88,7 @@ void BuildLevel023(CControllerGame*)
 	Barrel(182, 428);
 	Barrel(440, 374);
 	Barrel(466, 394);
-	PrizeCrate(492, 424, POWERUP_MONEY);
-	Barrel(524, 438);
+	Stack({Crate(492, 424), PrizeCrate(493, 424, POWERUP_MONEY, 1)});
 
 	// Against the wall.
 	Barrel(300, 150);

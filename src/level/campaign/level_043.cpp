@@ -62,11 +62,11 @@ void BuildLevel043(CControllerGame* game)
 	new CTree(664, 290, TREE_PINE, 3, 1);
 
 	// The near row, young pines and oaks.
-	new CTree(14, 400, TREE_ORANGE, 1, 0);
-	new CTree(226, 412, TREE_PINE, 3, 0);
+	new CTree(14, 436, TREE_ORANGE, 1, 0);
+	new CTree(226, 424, TREE_PINE, 3, 0);
 	new CTree(346, 440, TREE_PINE, 4, 1);
-	new CTree(466, 412, TREE_PINE, 3, 1);
-	new CTree(680, 400, TREE_ORANGE, 1, 1);
+	new CTree(466, 424, TREE_PINE, 3, 1);
+	new CTree(678, 436, TREE_ORANGE, 1, 1);
 
 	// Before the field.
 	new CTree(-30, 650, TREE_GREEN, 2, 0);
@@ -77,8 +77,8 @@ void BuildLevel043(CControllerGame* game)
 
 	Basket(170, 226, POWERUP_GRAVITY);
 	Basket(522, 226, POWERUP_GRAVITY);
-	Basket(118, 346, POWERUP_WIDE);
-	Basket(574, 346, POWERUP_RAIN);
+	Basket(122, 346, POWERUP_WIDE);
+	Basket(570, 346, POWERUP_RAIN);
 
 	// The great basket in the middle: five wide.
 	Apples(258, 340);

@@ -14,7 +14,7 @@ static const int BIG = 0, MEDIUM = 1;
 // lies toward side: 1 to the right of x, -1 to the left.
 static void Well(int x, int side)
 {
-	static const int BACK_Y[]  = {192, 218, 245, 272, 299};
+	static const int BACK_Y[] = {192, 218, 245, 272, 299};
 	static const int INWARD[] = {14, 4, 0, 4, 14};
 	new CRock(x + side * 12, 166, BIG, 1, false);
 	for (int i = 0; i < 5; i++)
@@ -24,29 +24,17 @@ static void Well(int x, int side)
 	new CRock(x + side * 67, 297, MEDIUM, 5, false);
 }
 
-// A heap of nine crates and three barrels beside the way to the wells: side as above, outward.
-static void Heap(int side, CCrate* (*upper)(int x, int y))
+// A heap of crates and three barrels beside the way to the wells: side as above, outward.
+static void Heap(int side, PowerupKind prize)
 {
-	const int middle = 346;
-	const auto at    = [side](int out) { return middle + side * out; };
-	Stack({CoinCrate(at(96), 394), upper(at(96), 394)});
-	Stack({Crate(at(140), 398), CoinCrate(at(140), 398, 1), AppleCrate(at(141), 398, 2)});
+	const auto at = [side](int out) { return 346 + side * out; };
+	Stack({CoinCrate(at(96), 394), PrizeCrate(at(97), 394, prize, 1)});
+	Stack({AppleCrate(at(140), 398), CoinCrate(at(140), 398, 1), AppleCrate(at(141), 398, 2)});
 	AppleCrate(at(74), 424);
-	Stack({AppleCrate(at(118), 428), AppleCrate(at(118), 428, 1)});
-	Crate(at(162), 432);
+	Stack({AppleCrate(at(118), 428), AppleCrate(at(119), 428, 1)});
 	Barrel(at(196), 402);
 	Barrel(at(228), 408);
 	Barrel(at(212), 424);
-}
-
-static CCrate* SlowUpper(int x, int y)
-{
-	return PrizeCrate(x, y, POWERUP_SLOW, 1);
-}
-
-static CCrate* FansUpper(int x, int y)
-{
-	return PrizeCrate(x, y, POWERUP_FANS, 1);
 }
 
 // Level 55, "Between the stones" (tight spot, on the map 40). Late morning.
@@ -104,9 +92,11 @@ void BuildLevel055(CControllerGame* game)
 	Well(203, 1);
 	Well(497, -1);
 
-	Heap(-1, SlowUpper);
-	Heap(1, FansUpper);
+	Heap(-1, POWERUP_SLOW);
+	PrizeCrate(184, 432, POWERUP_GROW);
+	Heap(1, POWERUP_FANS);
+	CoinCrate(508, 432);
 
 	// Something to begin with, on the straight way.
-	Stack({PrizeCrate(346, 376, POWERUP_GROW), AppleCrate(347, 376, 1)});
+	PrizeCrate(346, 376, POWERUP_GROW);
 }

@@ -14,12 +14,12 @@ struct NestTree {
 };
 
 // Five trees about 60 apart, and apples in the middle.
-static void Nest(int x, int y, std::initializer_list<NestTree> trees)
+static void Nest(int x, int y, int applesX, std::initializer_list<NestTree> trees)
 {
 	for (const NestTree& tree : trees)
 		new CTree(x + tree.x, y + tree.y, tree.kind, tree.size, tree.variant);
-	Stack({FruitCrate(x, y, POINT_APPLE, APPLES_IN_CRATE),
-	       FruitCrate(x + 1, y, POINT_APPLE, APPLES_IN_CRATE, 1)});
+	Stack({FruitCrate(applesX, y, POINT_APPLE, APPLES_IN_CRATE),
+	       FruitCrate(applesX + 1, y, POINT_APPLE, APPLES_IN_CRATE, 1)});
 }
 
 // Level 67, "Pinball orchard" (pinball, on the map 52). Noon after the rain.
@@ -53,24 +53,24 @@ void BuildLevel067(CControllerGame* game)
 
 	new CTree(346, 170, TREE_RED, 2, 1);
 
-	Nest(170, 246,
+	Nest(170, 246, 178,
 	     {{-34, -50, TREE_ORANGE, 1, 0},
 	      {34, -50, TREE_ORANGE, 1, 1},
 	      {-56, 8, TREE_PINE, 3, 0},
 	      {56, 8, TREE_PINE, 3, 1},
-	      {0, 46, TREE_PINE, 4, 0}});
-	Nest(522, 246,
+	      {-24, 50, TREE_PINE, 4, 0}});
+	Nest(522, 246, 514,
 	     {{-34, -50, TREE_ORANGE, 1, 1},
 	      {34, -50, TREE_ORANGE, 1, 0},
 	      {-56, 8, TREE_PINE, 3, 1},
 	      {56, 8, TREE_PINE, 3, 0},
-	      {0, 46, TREE_PINE, 4, 1}});
-	Nest(346, 340,
+	      {24, 50, TREE_PINE, 4, 1}});
+	Nest(346, 340, 354,
 	     {{-34, -50, TREE_RED, 1, 0},
 	      {34, -50, TREE_RED, 1, 1},
 	      {-56, 8, TREE_PINE, 0, 0},
 	      {56, 8, TREE_PINE, 0, 1},
-	      {0, 46, TREE_PINE, 4, 0}});
+	      {-24, 50, TREE_PINE, 4, 0}});
 
 	// The slings: they throw inward what comes down at the sides; behind them a lane leads back.
 	new CTree(72, 356, TREE_PINE, 2, 0);

@@ -44,7 +44,7 @@ void BuildLevel073(CControllerGame* game)
 
 	new CCow(92, 236, RIGHT);
 	new CBighorn(560, 216, LEFT);
-	new CPolarBear(626, 262, LEFT);
+	new CPolarBear(606, 272, LEFT);
 	new CGoose(150, 400, RIGHT);
 	new CGoose(530, 408, LEFT);
 	new CChicken(280, 226, RIGHT);
@@ -62,15 +62,15 @@ void BuildLevel073(CControllerGame* game)
 	new CTree(584, 162, TREE_PINE, 2, 0);
 	new CTree(660, 176, TREE_ORANGE, 2, 1);
 	new CTree(-6, 330, TREE_PINE, 2, 1);
-	new CTree(688, 356, TREE_PINE, 2, 0);
+	new CTree(688, 446, TREE_PINE, 2, 0);
 	new CTree(28, 420, TREE_PINE, 3, 0);
 
 	// Before the field.
-	new CTree(-10, 644, TREE_PINE, 2, 0);
-	new CTree(40, 662, TREE_PINE, 3, 1);
-	new CTree(82, 672, TREE_PINE, 4, 0);
+	new CTree(4, 646, TREE_PINE, 2, 0);
+	new CTree(52, 664, TREE_PINE, 3, 1);
+	new CTree(94, 672, TREE_PINE, 4, 0);
 	new CTree(634, 666, TREE_PINE, 3, 0);
-	new CTree(690, 648, TREE_PINE, 2, 1);
+	new CTree(684, 648, TREE_PINE, 2, 1);
 
 	// The hen run.
 	Ring(346, 230, 3, 2);
