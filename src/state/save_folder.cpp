@@ -11,7 +11,9 @@ static const char* const FALLBACK_FOLDER = "Resources/";
 static const char* const MAKER_FOLDER    = "Ondrel/";
 static const char* const GAME_FOLDER     = "Quorblet Data/";
 
-static std::string s_root; // set from outside; empty: ask the environment
+// Set from outside; empty: ask the environment. Never destroyed: after a fatal error objects may
+// still save themselves while the program takes itself down.
+static std::string& s_root = *new std::string;
 
 void SetSaveFolderRoot(const std::string& root)
 {

@@ -163,6 +163,7 @@ TEST(MapBoxes, HaveTheSizesThatTheScreenIsLaidOutFor)
 	                                           {"mapbuttonzoomshadow.png", 104, 40},
 	                                           {"maparrowB2rollover.png", 70, 60}};
 	std::map<std::string, Picture> pictures = Drawn(AddMapBoxes, "map/");
+	pictures.merge(Drawn(AddMapButtons, "map/"));
 	for (const auto& size : s_sizes) {
 		ASSERT_TRUE(pictures.count(size.name)) << size.name;
 		EXPECT_EQ(pictures[size.name].width, size.width) << size.name;

@@ -62,7 +62,6 @@ static const std::vector<std::vector<Placed>> s_screens = {
 	{{"optionscontrolsinput", 423, 373}, {"optionsbuttonreset", 330, 433},
 	 {"optionsbuttonsave", 330, 470}, {"optionsbuttoncancel", 402, 470}},
 	{{"instructionsbuttonexit", 626, 516}},
-	{{"prelevel_button", 583, 314}},
 };
 // clang-format on
 

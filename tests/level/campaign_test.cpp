@@ -325,8 +325,9 @@ TEST_F(CampaignTest, EachLevelOpensForPlayAndKeepsItsAnimals)
 		}
 		EXPECT_TRUE(playOpened);
 		EXPECT_FALSE(game->levelOver);
-		if (!game->rules.isStampede)
+		if (!game->rules.isStampede) {
 			EXPECT_EQ(waiting, CElementAnimal::CountToRescue());
+		}
 		for (const CElementAnimal* animal : CElementAnimal::AnimalList)
 			if (!animal->optional && !dynamic_cast<const CElementStampede*>(animal)) {
 				EXPECT_GT(animal->CentreX(), 0) << animal->ClassName();

@@ -11,6 +11,7 @@
 #include "level/level_kinds.h"
 #include "media/gui.h"
 #include "media/input.h"
+#include "sound/sound_manager.h"
 #include "state/game_data.h"
 #include "support/field_test.h"
 
@@ -21,8 +22,14 @@ static const int RESULT_NOT_SET = RESULT_NONE;
 class OverLevelTest : public FieldTest
 {
 protected:
+	void SetUp() override
+	{
+		FieldTest::SetUp();
+		CreateUiSounds();
+	}
 	void TearDown() override
 	{
+		DeleteUiSounds();
 		g_currentController = nullptr;
 		FieldTest::TearDown();
 	}
