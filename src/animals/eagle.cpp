@@ -23,8 +23,8 @@ static const PictureRow s_pictures[CEagle::PICTURES] = {
 };
 
 static const BodyPoint s_body[] = {
-	{ 7, 27 }, { 14, 29 }, { 21, 27 }, { 26, 22 }, { 21, 17 },
-	{ 14, 16 }, { 7, 17 }, { 2, 22 },
+	{ 4, 25 }, { 7, 32 }, { 15, 34 }, { 24, 32 }, { 27, 25 },
+	{ 24, 18 }, { 15, 16 }, { 7, 18 },
 };
 // clang-format on
 

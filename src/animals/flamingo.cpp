@@ -26,8 +26,8 @@ static const PictureRow s_pictures[CFlamingo::PICTURES] = {
 };
 
 static const BodyPoint s_body[] = {
-	{ 12, 38 }, { 12, 44 }, { 17, 47 }, { 22, 44 }, { 23, 38 },
-	{ 22, 32 }, { 17, 29 }, { 12, 32 },
+	{ 9, 29 }, { 12, 37 }, { 15, 44 }, { 20, 45 }, { 24, 38 },
+	{ 29, 31 }, { 28, 26 }, { 20, 24 }, { 12, 25 },
 };
 // clang-format on
 

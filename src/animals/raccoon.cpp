@@ -12,7 +12,7 @@ static const ActionRow s_actions[] = {
 	{ "runup",      ACTION_WALK_BOTH, "0-11",     2, ROLE_NONE, "" },
 	{ "look",       ACTION_LOOK,      "0-4",      1, ROLE_NONE, "",    { .inTree = true } },
 	{ "stunned",    ACTION_BUMP,      "0-6",      0, ROLE_BUMP, "" },
-	{ "land:fall",  ACTION_LAND,      "2-5",      0, ROLE_NONE, "" },
+	{ "land:fall",  ACTION_LAND,      "2-6",      0, ROLE_NONE, "" },
 	{ "fall",       ACTION_FALL,      "0-1",      0, ROLE_NONE, "land" },
 	{ "climb",      ACTION_CLIMB,     "0-7",      0, ROLE_NONE, "" },
 };

@@ -87,12 +87,14 @@ static const CardPart s_dogs[] = {
 	{ "prelevel_text_dogsasleep.png",   304, 285 },
 	{ "prelevel_text_thefewerdogs.png", 305, 337 },
 	{ "prelevel_text_themorebonus.png", 294, 359 },
+	{ "prelevel_portraitframe.png",     358, 211 },
 	{ "sidebarportrait14.png",          363, 216 },
 };
 static const CardPart s_skunks[] = {
 	{ "prelevel_text_skunkcolony.png",    284, 294 },
 	{ "prelevel_text_thefewerskunks.png", 303, 337 },
 	{ "prelevel_text_themorebonus.png",   294, 359 },
+	{ "prelevel_portraitframe.png",       352, 218 },
 	{ "sidebarportrait51.png",            357, 223 },
 };
 static const CardPart s_order[] = {

@@ -91,7 +91,7 @@ private:
 	void PutBox(const std::string& family, int y);
 	int PutNumber(const char* format, int value, int x, int y);
 	int PutWords(const std::vector<TallyWord>& words, int x, int y);
-	void PutWordsCentred(const std::vector<TallyWord>& words, int middleX, int y);
+	void PutWordsCentred(const std::vector<TallyWord>& words, int middleX, int middleY);
 	void PutLineAmount(int index, int value);
 
 	std::vector<int> record;

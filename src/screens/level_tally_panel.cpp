@@ -30,9 +30,12 @@ static const int TOTALS_HEIGHT = 98;
 static const int LINES_EDGE = 12, LINE_HEIGHT = 23, NO_BONUS_HEIGHT = 27;
 static const int LINE_TITLE_X = 15, LINE_WORDS_X = 97, LINE_AMOUNT_X = 402; // in the column
 static const int NEW_TITLE_WIDTH  = 118;
+static const int FRAME_EDGE       = 5; // from a frame's corner to its window
+static const int FACE_HEIGHT      = 54;
 static const int MOST_IN_A_ROW    = 7;
 static const int MOST_BUTTERFLIES = 6;
 static const int TEXT_LINE        = 28;
+static const int HARVEST_AMOUNT_X = 300; // right end, in the column
 static const int DIGITS           = 7;
 
 static const char* const COUNT_DIGIT  = "postlevel_tallynumbers_%i.png";
@@ -44,10 +47,10 @@ static const struct {
 	int x;   // of the panel's row of buttons
 	int y;   // above the panel's lower edge
 } s_buttons[CControllerLevelTally::BUTTON_COUNT] = {
-	{ "postlevel_button_retry",     336, 63 },
-	{ "postlevel_button_continue",  434, 67 },
-	{ "postlevel_button_mainmenu",  134, 63 },
-	{ "postlevel_button_sanctuary", 232, 63 },
+	{ "postlevel_button_retry",     336, 66 },
+	{ "postlevel_button_continue",  434, 70 },
+	{ "postlevel_button_mainmenu",  134, 66 },
+	{ "postlevel_button_sanctuary", 232, 66 },
 };
 static const int s_totalsX[] = { 163, 301, 439 };
 // clang-format on
@@ -64,6 +67,10 @@ void CControllerLevelTally::LayOut()
 		animalsTop   = newSpecies.empty() ? newTop : newTop + NEW_HEIGHT;
 		butterflyTop = animalsTop + ANIMALS_HEIGHT;
 		bonusTop     = butterflyTop + BUTTERFLY_HEIGHT;
+		if (g_gameData->rescuesThisLevel == 0) { // the room of their box goes between the others
+			animalsTop += BUTTERFLY_HEIGHT / 4;
+			bonusTop -= BUTTERFLY_HEIGHT / 4;
+		}
 	} else {
 		bonusTop     = newTop;
 		butterflyTop = totalsTop - BUTTERFLY_HEIGHT;
@@ -216,13 +223,20 @@ static int WordsWidth(const std::vector<TallyWord>& words)
 	return width;
 }
 
-// Line by line, each in the middle.
-void CControllerLevelTally::PutWordsCentred(const std::vector<TallyWord>& words, int middleX, int y)
+static bool EndsLine(const TallyWord& word)
 {
+	return !word.file && word.number == -1;
+}
+
+// Line by line, each in the middle, and all of them about middleY.
+void CControllerLevelTally::PutWordsCentred(const std::vector<TallyWord>& words, int middleX,
+                                            int middleY)
+{
+	const int lineEnds = static_cast<int>(std::count_if(words.begin(), words.end(), EndsLine));
+	int y              = middleY - TEXT_LINE * (lineEnds + 1) / 2;
 	std::vector<TallyWord> line;
 	for (size_t i = 0; i <= words.size(); i++) {
-		const bool lineEnds = i == words.size() || (!words[i].file && words[i].number == -1);
-		if (!lineEnds) {
+		if (i < words.size() && !EndsLine(words[i])) {
 			line.push_back(words[i]);
 			continue;
 		}
@@ -242,13 +256,14 @@ void CControllerLevelTally::ShowNewSpecies(int index)
 	const int portrait = PortraitOfKind(newSpecies[index]);
 	if (portrait < 0)
 		return;
-	const int room  = COLUMN_WIDTH - NEW_TITLE_WIDTH - PORTRAIT_WINDOW_WIDTH - 6;
+	const int room  = COLUMN_WIDTH - NEW_TITLE_WIDTH - PORTRAIT_WINDOW_WIDTH - 10;
 	const int count = static_cast<int>(newSpecies.size());
-	const int pitch = count > 1 ? std::min(PORTRAIT_WINDOW_WIDTH + 6, room / (count - 1)) : 0;
-	const std::string file = "sidebarportrait" + std::to_string(portrait) + ".png";
-	CSprite* face          = Put(file, COLUMN_LEFT + NEW_TITLE_WIDTH + index * pitch, newTop + 4);
-	if (face->FullHeight() > PORTRAIT_WINDOW_HEIGHT)
-		face->SetHeight(PORTRAIT_WINDOW_HEIGHT);
+	const int pitch = count > 1 ? std::min(PORTRAIT_WINDOW_WIDTH + 10, room / (count - 1)) : 0;
+	const int x     = COLUMN_LEFT + NEW_TITLE_WIDTH + index * pitch;
+	Put("postlevel_boxnewanimal_frame.png", x - FRAME_EDGE, newTop + 8 - FRAME_EDGE);
+	CSprite* face = Put("sidebarportrait" + std::to_string(portrait) + ".png", x, newTop + 8);
+	if (face->FullHeight() > FACE_HEIGHT)
+		face->SetHeight(FACE_HEIGHT);
 }
 
 void CControllerLevelTally::ShowAnimal(int index)
@@ -259,7 +274,7 @@ void CControllerLevelTally::ShowAnimal(int index)
 	const int pitch   = COLUMN_WIDTH / columns;
 	const int rowHigh = (ANIMALS_HEIGHT - TITLE_HEIGHT - 8) / rows;
 	const int middle  = COLUMN_LEFT + pitch * (index % columns) + pitch / 2;
-	const int foot    = animalsTop + TITLE_HEIGHT + rowHigh * (index / columns + 1);
+	const int foot = animalsTop + TITLE_HEIGHT + rowHigh * (index / columns + 1) - (rows == 1) * 6;
 
 	const std::string file =
 	    std::string("postlevel_animal_") + SpeciesBubbleWord(speciesList[index]) + ".png";
@@ -300,11 +315,11 @@ void CControllerLevelTally::ShowBonusBox()
 	PutCentred("postlevel_bonus_title_box.png", FIELD_MIDDLE, bonusTop);
 	PutCentred(TITLES[bonusResult.grade], FIELD_MIDDLE, bonusTop + 6);
 	if (harvest) {
-		ShowHarvest(bonusTop + 60);
+		ShowHarvest(bonusTop + 46);
 		return;
 	}
 	const std::vector<TallyWord> words = BonusLevelWords(count, bonusResult.grade, record);
-	PutWordsCentred(words, FIELD_MIDDLE, bonusTop + 72);
+	PutWordsCentred(words, FIELD_MIDDLE, bonusTop + 104);
 }
 
 void CControllerLevelTally::ShowHarvest(int y)
@@ -317,16 +332,20 @@ void CControllerLevelTally::ShowHarvest(int y)
 	                       {"acornA.png", "prelevel_text_acorns.png"},
 	                       {"coconutA.png", "prelevel_text_coconuts.png"}};
 	const int numbers[] = {count.a, count.b, count.c, count.d};
+	auto putAmount      = [&](int amount, int amountY) {
+        const std::vector<TallyWord> number = {{nullptr, amount}};
+        PutWords(number, COLUMN_LEFT + HARVEST_AMOUNT_X - WordsWidth(number), amountY);
+	};
 	PutCentred("postlevel_bonus_text_harvest.png", FIELD_MIDDLE, y);
 	for (int i = 0; i < 4; i++) {
 		const int row = y + 26 + i * 22;
 		Put(FRUIT[i].picture, COLUMN_LEFT + 90, row);
 		Put(FRUIT[i].word, COLUMN_LEFT + 130, row);
-		PutWords({{nullptr, numbers[i]}}, COLUMN_LEFT + 260, row);
+		putAmount(numbers[i], row);
 	}
 	const int total = count.a + count.b + count.c + count.d;
 	Put("postlevel_bonus_boxBtotal.png", COLUMN_LEFT + 80, y + 114);
-	PutWords({{nullptr, total}}, COLUMN_LEFT + 260, y + 116);
+	putAmount(total, y + 116);
 }
 
 // The first line brings its box along.

@@ -79,7 +79,8 @@ CControllerMain::~CControllerMain()
 
 void CControllerMain::Build()
 {
-	picture = new CMenuPicture;
+	g_display->drawingEnabled = true; // a level that was left on the way up may have cleared it
+	picture                   = new CMenuPicture;
 	for (int i = 0; i < BUTTONS; i++)
 		buttons[i] = new CMenuButton(s_places[i].x, s_places[i].y, s_places[i].frame);
 	BuildPlayer();

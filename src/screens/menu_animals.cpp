@@ -43,9 +43,9 @@ static const Idler s_idlers[CMenuAnimals::IDLERS] = {
 	{ "mainmenusquirrel",  10, 2, 108, 268, 100440, -1 },
 	{ "mainmenubluebird",  10, 2, 446,  64, 100440, -1 },
 	{ "mainmenuduck",       8, 3, 236, 494, 100550, -1 },
-	{ "mainmenuducklingA",  8, 2, 204, 508, 100550, -1 },
-	{ "mainmenuducklingB",  8, 2, 178, 510, 100550, -1 },
-	{ "mainmenuducklingC",  8, 2, 152, 508, 100550, -1 },
+	{ "mainmenuducklingA",  8, 2, 204, 504, 100550, -1 },
+	{ "mainmenuducklingB",  8, 2, 178, 506, 100550, -1 },
+	{ "mainmenuducklingC",  8, 2, 152, 504, 100550, -1 },
 };
 
 static const FishLook s_fish[CMenuAnimals::FISH] = {

@@ -111,6 +111,13 @@ TEST_P(TreeSpeciesTest, ShakenOutItFallsOnceAndIsCaughtOnlyOnTheGround)
 	EXPECT_EQ(1, g_gameData->RescuedThisLevel(GetParam()));
 }
 
+TEST_P(TreeSpeciesTest, ItsLandingHasThePictureOfTheThud)
+{
+	CElementTreeClimber* climber = InCrown();
+	const CSprite* landing       = ActionNamed(climber, "land:fall")->spriteLeft;
+	EXPECT_GE(landing->FrameCount() - 1, climber->thudFromEnd);
+}
+
 INSTANTIATE_TEST_SUITE_P(Three, TreeSpeciesTest,
                          testing::Values(SPECIES_KOALA, SPECIES_RACCOON, SPECIES_SQUIRREL),
                          [](const testing::TestParamInfo<int>& info) {

@@ -15,8 +15,8 @@ const Files& Drawn()
 {
 	static const Files files = [] {
 		Catalogue catalogue;
-		for (auto* entry :
-		     {AddMenuPicture, AddMenuBoard, AddMenuAnimals, AddMenuFish, AddMenuButtons})
+		for (auto* entry : {AddMenuPicture, AddMenuBoard, AddMenuAnimals, AddMenuDriver,
+		                    AddMenuFish, AddMenuButtons})
 			entry(catalogue);
 		Files drawn;
 		for (const Group& group : catalogue.groups) {

@@ -120,6 +120,26 @@ until screen = CControllerMapGroup1 within 60
 wait 90
 key return
 until level = 2 within 60
+until state = play within 400
+bot on
+until screen = CControllerLevelTally within 60000
+bot off
+wait 10
+key escape                        # do not count
+wait 30
+key right
+wait 3
+key right
+wait 3
+key right
+wait 3
+key return                        # to the main menu, which takes keys as ever
+until screen = CControllerMain within 60
+wait 90
+key right
+wait 3
+key return
+until screen = CControllerGameContinue within 120
 quit
 END
 

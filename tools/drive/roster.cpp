@@ -104,10 +104,10 @@ static const char* Word(int value, const std::vector<const char*>& words)
 // What the crates hold, in the columns fruit_crates, coin_crates, barrels, power_ups.
 static std::string CratesText()
 {
-	static const char* const PRIZES[] = {"",        "money",     "double",    "triple", "quadruple",
-	                                     "barrier", "bulldozer", "destructo", "fast",   "gravity",
-	                                     "grow",    "wide",      "life",      "rain",   "shrink",
-	                                     "slow",    "sticky",    "fans"};
+	static const std::vector<const char*> PRIZES = {
+	    "",          "money",     "double", "triple",  "quadruple", "barrier",
+	    "bulldozer", "destructo", "fast",   "gravity", "grow",      "wide",
+	    "life",      "rain",      "shrink", "slow",    "sticky",    "fans"};
 	int fruit = 0, coins = 0, barrels = 0;
 	std::map<int, int> prizes;
 	for (const CCrate* crate : CCrate::CrateList) {
@@ -121,7 +121,7 @@ static std::string CratesText()
 	}
 	std::string text;
 	for (const auto& [kind, count] : prizes) {
-		text += (text.empty() ? "" : ", ") + std::string(PRIZES[kind]);
+		text += std::string(text.empty() ? "" : ", ") + Word(kind, PRIZES);
 		if (count > 1)
 			text += " x" + std::to_string(count);
 	}

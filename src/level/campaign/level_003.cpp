@@ -33,11 +33,11 @@ void BuildLevel003(CControllerGame*)
 	new CCat(346, 290, LEFT);
 	new CCat(330, 350, RIGHT);
 	new CCat(366, 420, LEFT);
-	CDuck* duck = new CDuck(420, 200, LEFT);
-	new CDuckling(438, 198, duck);
-	new CDuckling(452, 196, duck);
-	new CDuckling(466, 194, duck);
-	new CDuckling(480, 192, duck);
+	CDuck* duck = new CDuck(438, 200, LEFT);
+	new CDuckling(456, 198, duck);
+	new CDuckling(470, 196, duck);
+	new CDuckling(484, 194, duck);
+	new CDuckling(498, 192, duck);
 
 	new CButterfly(240, 200, RIGHT);
 	new CButterfly(600, 240, LEFT);

@@ -41,7 +41,7 @@ void BuildLevel009(CControllerGame*)
 	new CSheep(150, 340, RIGHT);
 	new CHorse(590, 230, LEFT);
 	new CCat(80, 370, RIGHT);
-	new CChicken(470, 240, LEFT);
+	new CChicken(526, 236, LEFT);
 	new CChicken(210, 300, RIGHT);
 
 	new CButterfly(250, 230, RIGHT);

@@ -28,8 +28,8 @@ void BuildLevel010(CControllerGame*)
 	new CPig(150, 385, RIGHT);
 	new CPig(200, 380, RIGHT);
 	new CPig(245, 390, LEFT);
-	new CHorse(190, 235, RIGHT);
-	new CCow(510, 235, LEFT);
+	new CHorse(190, 240, RIGHT);
+	new CCow(510, 240, LEFT);
 	new CTurtle(346, 270, LEFT);
 	new CTurtle(390, 310, LEFT);
 	new CTurtle(330, 330, RIGHT);

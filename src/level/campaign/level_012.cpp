@@ -94,7 +94,7 @@ static void NearWall()
 	for (int i = 0; i < BARRELS_IN_WALL; i++) {
 		const int x     = MIDDLE + (2 * i - BARRELS_IN_WALL + 1) * BARREL_PITCH / 2;
 		const bool lens = i >= LENS_FROM && i <= LENS_TO;
-		const int bow   = lens ? (i - LENS_FROM + 1) * (LENS_TO + 1 - i) / 5 : 0; // 2 to 6
+		const int bow   = lens ? 3 + (i - LENS_FROM + 1) * (LENS_TO + 1 - i) / 8 : 0; // 4 to 6
 		const int back = NEAR_WALL - 4 - bow * 2, front = NEAR_WALL + 4 + bow;
 		if (lens)
 			StackCrate(Barrel(x, back), Barrel(x, back, 1));
