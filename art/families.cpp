@@ -27,6 +27,27 @@ void AddEverything(Catalogue& catalogue)
 	AddWidgets(catalogue);
 	AddSigns(catalogue);
 	AddOpening(catalogue);
+	AddMenuPicture(catalogue);
+	AddMenuBoard(catalogue);
+	AddMenuAnimals(catalogue);
+	AddMenuDriver(catalogue);
+	AddMenuFish(catalogue);
+	AddMenuButtons(catalogue);
+	AddDialog(catalogue);
+	AddPause(catalogue);
+	AddBonusCard(catalogue);
+	AddTally(catalogue);
+	AddTallyWords(catalogue);
+	AddTallyAnimals(catalogue);
+	AddGameChoice(catalogue);
+	AddProfilePages(catalogue);
+	AddOptionsPages(catalogue);
+	AddInstructions(catalogue);
+	AddCredits(catalogue);
+	AddMapIslands(catalogue);
+	AddMapDots(catalogue);
+	AddMapBoxes(catalogue);
+	AddMapButtons(catalogue);
 
 	AddMachine(catalogue);
 	AddProfessor(catalogue);
@@ -37,6 +58,9 @@ void AddEverything(Catalogue& catalogue)
 	AddPrizes(catalogue);
 	AddShield(catalogue);
 	AddPoints(catalogue);
+	AddSaucer(catalogue);
+	AddSaucerAntenna(catalogue);
+	AddSaucerFire(catalogue);
 
 	AddSkies(catalogue);
 	AddSea(catalogue);
@@ -63,6 +87,27 @@ void AddEverything(Catalogue& catalogue)
 	AddGiants(catalogue);
 	AddDeer(catalogue);
 	AddRovers(catalogue);
+	AddPerchingBirds(catalogue);
+	AddRaptors(catalogue);
+	AddOwls(catalogue);
+	AddRoadrunner(catalogue);
+	AddTurtles(catalogue);
+	AddSnake(catalogue);
+	AddLizard(catalogue);
+	AddSeals(catalogue);
+	AddBot(catalogue);
+	AddAlien(catalogue);
+	AddAlienPilot(catalogue);
+	AddChicken(catalogue);
+	AddGeese(catalogue);
+	AddFlamingo(catalogue);
+	AddPenguin(catalogue);
+	AddOstrich(catalogue);
+	AddRabbits(catalogue);
+	AddKangaroos(catalogue);
+	AddFrog(catalogue);
+	AddSquirrels(catalogue);
+	AddKoala(catalogue);
 	AddPortraits(catalogue);
 
 	AddSounds(catalogue);

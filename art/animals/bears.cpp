@@ -12,7 +12,7 @@ static Quadruped BearShape()
 	Quadruped q;
 	q.length = 17, q.shoulderHeight = 17.5f, q.hipHeight = 17;
 	q.chest = 7.8f, q.hip = 7.4f, q.belly = 8.2f, q.spread = 4.2f, q.shoulderHump = 1.5f;
-	q.thigh = 3.9f, q.shin = 3.3f, q.paw = 3.3f;
+	q.thigh = 3.9f, q.shin = 3.3f, q.paw = 3.3f, q.step = 8.5f, q.stance = .40f;
 	q.neckForward = 4.5f, q.neckUp = 4.5f, q.neckRadius = 6.4f;
 	q.coat.base = 0xb8743e, q.coat.belly = 0xdca76e, q.legs = 0xa06232;
 
@@ -31,7 +31,7 @@ static Quadruped PolarBearShape()
 	Quadruped q = BearShape();
 	q.length = 21, q.shoulderHeight = 19.5f, q.hipHeight = 20, q.shoulderHump = 0;
 	q.chest = 8.6f, q.hip = 9.6f, q.belly = 9.6f;
-	q.thigh = 4.6f, q.shin = 3.9f, q.paw = 4.2f;
+	q.thigh = 4.6f, q.shin = 3.9f, q.paw = 4.2f, q.step = 8.9f, q.stance = .42f;
 	q.neckForward = 8, q.neckUp = 4.4f, q.neckRadius = 5.8f;
 	q.coat.base = 0xfbf9f0, q.coat.belly = 0xdde2ee, q.legs = 0xf0eee4, q.feet = 0xe4e6ea;
 
@@ -46,7 +46,7 @@ static Quadruped PandaShape()
 {
 	const uint32_t BLACK = 0x2c2a34;
 	Quadruped q          = BearShape();
-	q.length = 15, q.shoulderHump = 0, q.belly = 8.8f;
+	q.length = 15, q.shoulderHump = 0, q.belly = 8.8f, q.step = 7.9f, q.stance = .48f;
 	q.coat = {CoatKind::Bands, 0xfaf8f2, 0xe0dcd8, BLACK}, q.coat.threshold = 3.2f;
 	q.legs = q.feet = BLACK;
 
@@ -139,7 +139,7 @@ static Poses Pedal()
 	for (int i = 0; i < COUNT; i++) {
 		float beat         = std::sin(2 * PI * i / COUNT);
 		list[i].stride     = i / (float)COUNT;
-		list[i].strideSize = 1.25f;
+		list[i].strideSize = .8f;
 		list[i].pitch += .05f * beat;
 		list[i].mouth = .35f;
 	}

@@ -104,7 +104,10 @@ int BipedBuilder::TrunkMaterial()
 		    float front =
 		        below ? Smoothstep(-.3f, -.7f, s.normal.y) : Smoothstep(r * .42f, r * .62f, ahead);
 		    Colour c = Mix(outer, HexColour(b.belly), front);
-		    float z  = std::fabs(p.z);
+		    if (b.rump)
+			    c = Mix(c, HexColour(b.rump),
+			            Smoothstep(-r * .45f, -r * .62f, p.x) * Smoothstep(r * .5f, r * .1f, p.y));
+		    float z = std::fabs(p.z);
 		    if (b.backStripes <= 0 || z < r * .45f || front > .3f)
 			    return c;
 		    float band = std::fabs(z - r * .72f);
@@ -172,8 +175,8 @@ Reach BipedBuilder::Galloping(int s) const
 Reach BipedBuilder::Climbing(int s) const
 {
 	float up  = std::sin(pose.climb * 2 * PI + (s > 0 ? PI : 0));
-	Vec3 hand = ShoulderOf(s) + Vec3{1.5f, 6.5f + 5.5f * up, s * 6.6f};
-	Vec3 foot = HipOf(s) + Vec3{2.6f, -2.8f - 2.6f * up, s * 3.4f};
+	Vec3 hand = ShoulderOf(s) + figure.climbHand * Vec3{1, 1, (float)s} + Vec3{0, 5.5f * up, 0};
+	Vec3 foot = HipOf(s) + figure.climbFoot * Vec3{1, 1, (float)s} - Vec3{0, 2.6f * up, 0};
 	return {hand, foot, {-.8f, -.8f, s * 1.f}, {-.1f, .5f, s * 1.f}};
 }
 

@@ -156,7 +156,7 @@ void BirdBuilder::MakeMaterials()
 
 void BirdBuilder::AddBody()
 {
-	float puff = 1 + pose.ruffle * .18f;
+	float puff = 1 + pose.ruffle * .30f;
 	model.Ellipsoid(body, Vec3{bird.bodyLength, bird.bodyRadius, bird.bodyRadius * .95f} * puff,
 	                bodyAxes, coat, 0);
 	if (bird.ruffCollar > 0)
@@ -170,7 +170,7 @@ void BirdBuilder::AddRuff()
 	Vec3 neckWay = head.centre - neckBase, along = Normalize(neckWay);
 	Vec3 aside = {0, 0, 1}, across = Normalize(Cross(aside, along));
 	Vec3 centre = neckBase + neckWay * .16f;
-	float c     = bird.ruffCollar;
+	float c     = bird.ruffCollar * (1 + pose.ruffle * .35f);
 	for (int i = 0; i < 12; i++) {
 		float a = i * 2 * PI / 12;
 		model.Ball(centre + (across * std::cos(a) + aside * std::sin(a)) * c, c * .42f, collar,
@@ -327,11 +327,12 @@ void BirdBuilder::AddFace()
 void BirdBuilder::AddCrown()
 {
 	float r = bird.headRadius, c = bird.crest, up = pose.ruffle;
+	int feather = bird.crestColour ? model.Plain(bird.crestColour, .12f) : headCoat;
 	for (int i = 0; c > 0 && i < 4; i++)
 		model.RoundCone(head.Point(r * (.22f - .26f * i), r * .70f, 0),
 		                head.Point(-r * (.15f + .28f * i) - c * (.45f + .12f * i),
 		                           r * .85f + c * (.95f - .27f * i + up * .4f), 0),
-		                r * .24f, .35f, headCoat, .5f);
+		                r * .24f, .35f, feather, .5f);
 	for (int i = 0; bird.tuft > 0 && i < 3; i++) {
 		Vec3 root = head.Point(-r * .05f - r * .16f * i, r * .92f, 0);
 		model.RoundCone(root,

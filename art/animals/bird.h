@@ -45,13 +45,14 @@ struct Bird {
 	uint32_t body = 0x3f78d0, belly = 0xf0a868, wing = 0x2f5cb0, wingTip = 0x274a8c;
 	uint32_t beak = 0xf0b040, leg = 0x7a5a40, collar = 0xffffff, fleck = 0x6a5440, breast = 0;
 	uint32_t head = 0, face = 0, beakEnd = 0, tail = 0, neck = 0; // 0: as what they grow from
-	uint32_t knobColour = 0x2c2a30;
-	uint32_t lid        = 0; // of the eyes; 0: as the head around them
-	uint32_t wingBar    = 0; // patch on the folded wing; 0 for none
-	int bands           = 0; // bands across the folded wing in its stead
-	uint32_t trail      = 0; // feathers along the rear of a spread wing; 0: as the wing
-	uint32_t sheen      = 0; // lower half of a long neck; 0: all in one colour
-	uint32_t tailEnd    = 0; // last third of the tail; 0: as the tail
+	uint32_t knobColour  = 0x2c2a30;
+	uint32_t crestColour = 0; // 0: as the head
+	uint32_t lid         = 0; // of the eyes; 0: as the head around them
+	uint32_t wingBar     = 0; // patch on the folded wing; 0 for none
+	int bands            = 0; // bands across the folded wing in its stead
+	uint32_t trail       = 0; // feathers along the rear of a spread wing; 0: as the wing
+	uint32_t sheen       = 0; // lower half of a long neck; 0: all in one colour
+	uint32_t tailEnd     = 0; // last third of the tail; 0: as the tail
 };
 
 void AddBird(Model& model, const Bird& bird, const View& view, const Pose& pose);

@@ -8,7 +8,7 @@
 
 static const int TRUNDLE_FRAMES = 8, STUNNED_FRAMES = 7, WRITE_FRAMES = 8;
 static const float WHEEL = 3.5f, WHEEL_GAP = 6.3f, TRACK = 7.8f;
-static const float ARM = 9.5f;
+static const float ARM = 9.5f, PENCIL = 12;
 static const Mat3 AXLE = TurnX(PI / 2);
 
 namespace
@@ -192,11 +192,10 @@ void BotBuilder::AddPad(Vec3 hand, const Mat3& axes)
 
 void BotBuilder::AddPencil(Vec3 hand, Vec3 tip)
 {
-	Vec3 way = Normalize(tip - hand);
-	model.RoundCone(hand - way * 4.2f, tip - way * 1.3f, .95f, .95f, model.Plain(0xffd23cu, .4f),
-	                0);
-	model.RoundCone(tip - way * 1.6f, tip, .9f, .25f, f.cream, 0);
-	model.Ball(hand - way * 4.9f, 1.15f, model.Plain(0xff7a8au, .3f), 0);
+	Vec3 way = Normalize(tip - hand), end = tip - way * PENCIL;
+	model.RoundCone(end, tip - way * 2.2f, 1.3f, 1.3f, model.Plain(0x2a62d0u, .4f), 0);
+	model.RoundCone(tip - way * 2.4f, tip, 1.25f, .3f, f.cream, 0);
+	model.RoundCone(end - way * 1.2f, end, 1.45f, 1.45f, model.Plain(0xff6a86u, .3f), 0);
 }
 
 // At rest the arms hang before it. When it writes the far hand holds the pad up, back to the

@@ -31,7 +31,7 @@ static Quadruped TigerShape()
 	Quadruped q;
 	q.length = 24, q.shoulderHeight = q.hipHeight = 19;
 	q.chest = 8.8f, q.hip = 8.2f, q.belly = 8.6f;
-	q.thigh = 4, q.shin = 3.5f, q.paw = 4.1f;
+	q.thigh = 4, q.shin = 3.5f, q.paw = 4.1f, q.step = 7.9f, q.stance = .5f;
 	q.neckForward = 5, q.neckUp = 6, q.neckRadius = 7.2f;
 	q.tail = TailKind::Thick, q.tailLength = 15, q.tailRadius = 2, q.maneColour = DARK;
 	q.coat          = {CoatKind::Stripes, 0xf79a2e, 0xfff0d8, DARK, .95f, .28f, 2.2f, 15};
@@ -64,7 +64,7 @@ static Quadruped SnowTigerShape()
 static Quadruped LionShape()
 {
 	Quadruped q     = TigerShape();
-	q.patternedLegs = false, q.coat = {};
+	q.patternedLegs = false, q.coat = {}, q.step = 7.2f, q.stance = .53f;
 	q.coat.base = 0xf4bc52, q.coat.belly = 0xf8dc9c, q.legs = 0xe8ae48, q.feet = 0xf4c870;
 	q.mane = ManeKind::Ring, q.maneColour = 0xa85a1e;
 	q.tail = TailKind::Rope, q.tailLength = 14, q.tailRadius = 1.5f;

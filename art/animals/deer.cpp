@@ -9,7 +9,7 @@ static Quadruped DeerShape()
 	Quadruped q;
 	q.length = 16.5f, q.shoulderHeight = q.hipHeight = 22.5f;
 	q.chest = 6.6f, q.hip = 6.8f, q.belly = 6.8f, q.spread = 4;
-	q.thigh = 3, q.shin = 1.9f, q.paw = 2.4f, q.hooved = true;
+	q.thigh = 3, q.shin = 1.9f, q.paw = 2.4f, q.hooved = true, q.step = 9.2f, q.stance = .45f;
 	q.neckForward = 5.6f, q.neckUp = 9.2f, q.neckRadius = 4, q.headPitch = -12;
 	q.coat = {CoatKind::Patches, 0xcf8e4a, 0xf4e0c0, 0xf8e8cc, .36f, .64f, 5};
 	q.legs = 0xb87a3e, q.feet = 0x4a3020;
@@ -39,7 +39,7 @@ static Quadruped MooseShape()
 	h.muzzleLength = 8, h.muzzleRoot = 4.3f, h.muzzleTip = 4.9f, h.muzzleDrop = -3.2f;
 	h.nose = 1.2f, h.noseColour = 0x3c2418, h.muzzle = 0xb58660;
 	h.ear = EarKind::Flop, h.earRadius = 1.8f, h.earLength = 4.5f;
-	h.horn = HornKind::Palm, h.hornLength = 13, h.horns = 0xecd3a4;
+	h.horn = HornKind::Palm, h.hornLength = 13, h.horns = 0xb08a56, h.hornGloss = .08f;
 	h.eye = {2.8f, .70f, .34f, .56f, .62f};
 	return q;
 }

@@ -46,7 +46,7 @@ static Quadruped WolfShape()
 	Quadruped q = FoxShape();
 	q.length = 18.5f, q.shoulderHeight = 19.5f, q.hipHeight = 18.5f;
 	q.chest = 7.8f, q.hip = 5.8f, q.belly = 6.2f, q.spread = 3.8f;
-	q.thigh = 3.3f, q.shin = 2.5f, q.paw = 3;
+	q.thigh = 3.3f, q.shin = 2.5f, q.paw = 3, q.step = 7.9f, q.stance = .5f;
 	q.neckForward = 5, q.neckUp = 5, q.neckRadius = 5.8f;
 	q.coat = {CoatKind::Saddle, 0x98a0ae, 0xeceef2, 0x5e6672}, q.coat.threshold = .30f;
 	q.legs = 0xb4bac4, q.feet = 0xdde0e6;
@@ -83,7 +83,7 @@ static Quadruped HyenaShape()
 	const uint32_t DARK = 0x5a4030;
 	Quadruped q         = WolfShape();
 	q.length = 15.5f, q.shoulderHeight = 20, q.hipHeight = 15, q.chest = 7.4f, q.hip = 5.6f;
-	q.neckForward = 5, q.neckUp = 5.5f, q.neckRadius = 5.6f;
+	q.neckForward = 5, q.neckUp = 5.5f, q.neckRadius = 5.6f, q.step = 8.5f, q.stance = .40f;
 	q.coat = {CoatKind::Patches, 0xd8b680, 0xe0c898, DARK, .30f, .58f, 1};
 	q.legs = 0xb08c5c, q.feet = 0x4a3428, q.mane = ManeKind::Crest, q.maneColour = DARK;
 	q.tailLength = 9, q.tailRadius = 1.6f, q.tailTip = 0x3c2a20;
@@ -151,12 +151,12 @@ Species Wolf()
 
 Species Coyote()
 {
-	return BeastSpecies("coyote", 50, CoyoteShape);
+	return BeastSpecies("coyote", 57, CoyoteShape);
 }
 
 Species Hyena()
 {
-	return BeastSpecies("hyena", 44, HyenaShape);
+	return BeastSpecies("hyena", 51, HyenaShape);
 }
 
 void AddDogs(Catalogue& catalogue)

@@ -10,6 +10,7 @@ static const int MEASURE_SAMPLES   = 2;
 static const int ROOM              = 3;     // canvas that is measured on, in sizes of the figure
 static const float SEEN            = .04f;  // alpha of the faintest pixel that a crop keeps
 static const int MARGIN            = 1;     // pixels free all round
+static const int SLACK             = 1;     // pixels more, since measuring is coarser than drawing
 static const float SHADOW_X        = 2;     // pixels that the shadow lies to the right
 static const float SHADOW_SEEN     = 1.15f; // part of its radius up to which it can be seen
 static const float SHADOW_FLATNESS = .26f;
@@ -74,7 +75,7 @@ Image Figure::Render(const Pose& pose, const Window& window, float zoom, int sup
 	camera.width       = window.width;
 	camera.height      = window.height;
 	camera.originX     = (float)-window.left;
-	camera.originY     = (float)-window.top;
+	camera.originY     = -window.top - pose.lift * camera.scale * std::cos(view.elevation);
 	camera.bodyTurn    = TurnZ(pose.pitch) * TurnX(pose.sway);
 	bool aboutFeet     = pose.sway != 0 || IsAirborne(species);
 	float size         = std::max(species.width, species.height) / scale;
@@ -139,8 +140,11 @@ Window Figure::WindowOf(const Sequence& sequence) const
 		Window extent = Extent(sequence.poses[i]);
 		covered       = i ? Union(covered, extent) : extent;
 	}
+	bool moves = sequence.poses.size() > 1;
+	if (moves)
+		covered.top -= SLACK;
 	// The game centres it on the standing picture, so both sides grow alike.
-	int grow      = std::max(stand.left - covered.left, covered.Right() - stand.Right());
+	int grow = std::max(stand.left - covered.left, covered.Right() - stand.Right()) + SLACK * moves;
 	Window window = {stand.left - grow, covered.top, stand.width + 2 * grow, 0};
 	window.height = stand.Bottom() - window.top;
 	return window;
@@ -149,7 +153,13 @@ Window Figure::WindowOf(const Sequence& sequence) const
 Image Figure::DrawAlone(const Pose& pose) const
 {
 	Window window = Extent(pose);
-	return Draw(pose, pose.left ? window : Mirrored(window));
+	window        = {window.left - SLACK, window.top - SLACK, window.width + 2 * SLACK,
+	                 window.height + 2 * SLACK};
+	if (!pose.left)
+		window = Mirrored(window);
+	Image image = Draw(pose, window);
+	Bounds seen = OpaqueBounds(image, SEEN);
+	return Draw(pose, Around(seen, window, MARGIN));
 }
 
 void Figure::AddTo(Sink& sink, const Sequence& sequence) const

@@ -88,7 +88,7 @@ Poses Ruffle(int count)
 		p.ruffle    = swell;
 		p.look      = .45f * shake * swell;
 		p.headRoll  = .25f * shake * swell;
-		p.armsUp    = .34f * swell;
+		p.armsUp    = .75f * swell;
 		p.tailSwing = shake * swell;
 		p.mouth     = i == 1 || i == 2 ? .8f : 0;
 		p.lid       = i == 3 ? 1 : 0;

@@ -176,7 +176,7 @@ Species Frog()
 {
 	Species s;
 	s.prefix = "frog";
-	s.width  = 34;
+	s.width  = 26;
 	s.build  = [](Model& model, const View& view, const Pose& pose) {
         FrogBuilder(model, view, pose).Build();
 	};

@@ -29,7 +29,7 @@ static Quadruped HippoShape()
 	q.chest = 12, q.hip = 12, q.belly = 12.6f, q.spread = 6;
 	q.thigh = 4.4f, q.shin = 4, q.paw = 4.2f, q.pawStretch = 1;
 	q.neckForward = 7.5f, q.neckUp = 4.5f, q.neckRadius = 9, q.tailRadius = 1.5f;
-	q.coat.base = 0x9c8eb4, q.coat.belly = 0xdcaab2, q.coat.gloss = .35f, q.legs = 0x8a7ea2;
+	q.coat.base = 0x7c6a9c, q.coat.belly = 0xc48a9c, q.coat.gloss = .30f, q.legs = 0x6a5a88;
 
 	Head& h  = q.head;
 	h.radius = 9.6f, h.shape = {1.0f, .92f, 1}, h.cheeks = 0;
@@ -37,7 +37,7 @@ static Quadruped HippoShape()
 	h.muzzleDrop = -4.6f, h.nose = 1.3f, h.earRadius = 2.4f, h.earUp = .95f, h.earAside = .62f;
 	h.eye    = {3.2f, .62f, .66f, .50f, .62f, 0, .40f};
 	h.teeth  = 3.4f;
-	h.muzzle = 0xcfa9c0, h.noseColour = 0x4a3850, h.innerEar = 0xe0a8b0;
+	h.muzzle = 0xb888a8, h.noseColour = 0x3a2840, h.innerEar = 0xe0a8b0;
 	return q;
 }
 
@@ -59,9 +59,19 @@ static Quadruped RhinoShape()
 	return q;
 }
 
+// Drawn up, or the largest bubble would be too small.
+static void BuildElephant(Model& model, const View& view, const Pose& pose)
+{
+	Quadruped q = ElephantShape();
+	q.length -= 4.5f * pose.tuck;
+	AddQuadruped(model, q, view, pose);
+}
+
 Species Elephant()
 {
-	return BeastSpecies("elephant", 78, ElephantShape);
+	Species s = BeastSpecies("elephant", 90, ElephantShape);
+	s.build   = BuildElephant;
+	return s;
 }
 
 Species Hippo()

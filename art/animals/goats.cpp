@@ -9,7 +9,7 @@ static Quadruped GoatShape()
 	Quadruped q;
 	q.length = 14, q.shoulderHeight = q.hipHeight = 17.5f;
 	q.chest = 6.6f, q.hip = 6.6f, q.belly = 7.2f, q.spread = 4.2f;
-	q.thigh = 2.7f, q.shin = 2.2f, q.paw = 2.7f, q.hooved = true;
+	q.thigh = 2.7f, q.shin = 2.2f, q.paw = 2.7f, q.hooved = true, q.step = 8.5f, q.stance = .40f;
 	q.neckForward = 4.6f, q.neckUp = 6.3f, q.neckRadius = 4.5f;
 	q.coat.base = 0xf8f3e8, q.coat.belly = 0xd8d0c0, q.legs = 0xe8dccc, q.feet = 0x6a4a3c;
 	q.tail = TailKind::Thick, q.tailLength = 4.5f, q.tailRadius = 1.6f, q.maneColour = 0xf6f1e6;
@@ -36,7 +36,7 @@ static Quadruped BighornShape()
 
 	Head& h  = q.head;
 	h.radius = 7.6f, h.blush = 0, h.beard = 0, h.ear = EarKind::None;
-	h.horn = HornKind::Curl, h.hornLength = 6.8f, h.horns = 0xe4c698;
+	h.horn = HornKind::Curl, h.hornLength = 7.8f, h.horns = 0x74492a, h.hornGloss = .12f;
 	h.coat = 0xa87c4c, h.muzzle = 0xf0e2c8, h.muzzleLength = 4.2f;
 	h.eye = {2.5f, .82f, .32f, .38f, .62f};
 	return q;

@@ -60,7 +60,7 @@ HeadBuilder::HeadBuilder(Model& newModel, const Head& newHead, const HeadFrame& 
 	muzzle   = model.Plain(head.muzzle, .12f);
 	nose     = model.Plain(head.noseColour, .7f);
 	innerEar = model.Plain(head.innerEar);
-	horn     = model.Plain(head.horns, .4f);
+	horn     = model.Plain(head.horns, head.hornGloss);
 	hair     = model.Plain(head.hair);
 }
 

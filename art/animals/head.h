@@ -33,18 +33,18 @@ struct Head {
 	EarKind ear     = EarKind::Round;
 	float earRadius = 2.8f, earLength = 5, earUp = .80f, earAside = .70f;
 	HornKind horn    = HornKind::None;
-	float hornLength = 5;
-	float tusk       = 0;
-	bool trunk       = false;
-	bool facePlate   = false; // bare primate face
-	float ruff       = 0;     // pointed fur on the cheeks
-	float forelock   = 0;
-	float tuft       = 0; // hair that stands up on the crown
-	float curls      = 0; // cap of wool on the brow
-	float beard      = 0;
-	float blush      = 0; // strength of rosy cheeks, 0..1
-	FaceMark mark    = FaceMark::None;
-	uint32_t coat    = 0; // 0: that of the body
+	float hornLength = 5, hornGloss = .4f;
+	float tusk      = 0;
+	bool trunk      = false;
+	bool facePlate  = false; // bare primate face
+	float ruff      = 0;     // pointed fur on the cheeks
+	float forelock  = 0;
+	float tuft      = 0; // hair that stands up on the crown
+	float curls     = 0; // cap of wool on the brow
+	float beard     = 0;
+	float blush     = 0; // strength of rosy cheeks, 0..1
+	FaceMark mark   = FaceMark::None;
+	uint32_t coat   = 0; // 0: that of the body
 	uint32_t muzzle = 0xc79a68, noseColour = 0x2c1c18, innerEar = 0xd8a488, horns = 0xe9dcc0;
 	uint32_t markColour = 0xffffff, hair = 0x3c2418;
 	uint32_t ruffColour = 0, earColour = 0, earTip = 0; // 0: as the coat

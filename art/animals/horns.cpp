@@ -11,6 +11,7 @@ struct HornBuilder {
 	int horn;
 	float r, hl; // head radius, horn length
 
+	int PaleHorn(float part) const;
 	void AddPair(int s);
 	void AddCow(int s);
 	void AddSwept(int s);
@@ -20,6 +21,12 @@ struct HornBuilder {
 	void AddRhino();
 	void AddSingle();
 };
+
+// Worn parts: ridges and tips.
+int HornBuilder::PaleHorn(float part) const
+{
+	return model.Plain(Mix(HexColour(head.horns), HexColour(0xfff0d0), part), .1f);
+}
 
 void HornBuilder::AddPair(int s)
 {
@@ -59,16 +66,17 @@ void HornBuilder::AddSwept(int s)
 // A spiral of beads: up from the brow, back, down and forward under the ear.
 void HornBuilder::AddCurl(int s)
 {
-	const int BEADS = 15;
+	const int BEADS = 19;
+	int ridge       = PaleHorn(.42f);
 	Vec3 centre     = frame.Point(-r * .18f, r * .22f, s * r * .86f), last;
 	for (int i = 0; i < BEADS; i++) {
 		float t = i / (BEADS - 1.f), a = Radians(62 + 318 * t), reach = hl * (1 - .30f * t);
 		Vec3 at =
 		    centre + frame.Along(std::cos(a) * reach, std::sin(a) * reach, s * (.2f + 2.6f * t));
-		float thick = Mix(2.5f, .9f, t), ridge = i % 2 ? .22f : 0;
+		float thick = Mix(3.1f, .9f, t), swell = i % 3 ? 0 : .35f;
 		if (i > 0)
-			model.RoundCone(last, at, thick + .1f + ridge, thick + .22f - ridge, horn,
-			                i == 1 ? .3f : .15f);
+			model.RoundCone(last, at, thick + swell, thick + swell, i % 3 ? horn : ridge,
+			                i == 1 ? .3f : .1f);
 		last = at;
 	}
 }
@@ -85,21 +93,29 @@ void HornBuilder::AddAntler(int s)
 	model.RoundCone(fork, fork + frame.Along(-2.4f, 2.4f, s * .6f), .85f, .5f, horn, .2f);
 }
 
-// A moose's: a broad plate with tines, held out aside and tipped to the viewer.
+// A moose's: a beam that widens to a long dished plate, held up and aside with its face forward;
+// short points along the upper edge and one over the brow.
 void HornBuilder::AddPalm(int s)
 {
-	Vec3 e   = frame.Point(-r * .2f, r * .72f, s * r * .45f);
-	Vec3 mid = e + frame.Along(-.6f, hl * .25f, s * hl * .5f);
-	model.RoundCone(e, mid, 1.4f, 1.3f, horn, .3f);
-	Mat3 plate = frame.axes * TurnX(s * -.75f);
-	Vec3 palm  = mid + frame.Along(-hl * .10f, hl * .42f, s * hl * .38f);
-	model.Ellipsoid(palm, {hl * .50f, 1.1f, hl * .46f}, plate * TurnX(s * -.15f), horn, .9f);
-	for (int i = 0; i < 5; i++) {
-		float a  = Radians(-62 + 40.f * i);
-		Vec3 out = plate * Vec3{-std::sin(a), 0, s * std::cos(a)};
-		model.RoundCone(palm + out * (hl * .34f), palm + out * (hl * .74f) + frame.Along(0, .8f, 0),
-		                1.15f, .6f, horn, .5f);
+	const int POINTS = 6;
+	int tip          = PaleHorn(.55f);
+	Vec3 root        = frame.Point(-r * .10f, r * .72f, s * r * .40f);
+	Vec3 along = Normalize(Vec3{-.02f, .26f, s * .95f}), face = {.80f, .58f, 0};
+	face        = Normalize(face - along * Dot(face, along));
+	Vec3 across = Cross(face, along) * (float)-s; // upward
+	Mat3 plate  = frame.axes * AxesFrom(along, across, face);
+	float l = hl * .52f, w = hl * .38f;
+	Vec3 beam = root + plate * Vec3{hl * .30f, 0, 0};
+	Vec3 palm = root + plate * Vec3{hl * .72f, w * .22f, 0};
+	model.RoundCone(root, beam, 1.5f, 1.9f, horn, .3f);
+	model.Ellipsoid(palm, {l, w, 1.3f}, plate, horn, 1.4f);
+	for (int i = 0; i < POINTS; i++) {
+		float a   = Radians(-12 + 26.f * i);
+		Vec3 out  = plate * Normalize(Vec3{std::cos(a) + .25f, std::sin(a) + .5f, .12f});
+		Vec3 edge = palm + plate * Vec3{l * .86f * std::cos(a), w * .80f * std::sin(a), 0};
+		model.RoundCone(edge, edge + out * (hl * .30f), 1.3f, .6f, tip, .5f);
 	}
+	model.RoundCone(beam, beam + frame.Along(hl * .34f, hl * .12f, s * .6f), 1.1f, .5f, tip, .4f);
 }
 
 void HornBuilder::AddRhino()

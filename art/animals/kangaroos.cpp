@@ -45,7 +45,7 @@ static Hopper JoeyShape()
 
 // Pinned, since the joey's way out of the pouch is measured from its corner.
 static const Window KANGAROO_CANVAS = {-20, -56, 58, 65};
-static const Window JOEY_CANVAS     = {-13, -32, 30, 36};
+static const Window JOEY_CANVAS     = {-13, -32, 30, 37};
 
 Species Kangaroo()
 {

@@ -17,7 +17,7 @@ static Head KoalaHead()
 	h.muzzleLength = .2f, h.muzzleRoot = 3.2f, h.muzzleTip = 2.4f, h.muzzleDrop = -2.6f;
 	h.muzzle = 0xe4e4e8, h.nose = 2.5f, h.noseColour = 0x34303a;
 	h.ear = EarKind::Round, h.earRadius = 5.2f, h.earUp = .58f, h.earAside = 1.16f;
-	h.innerEar = 0xf8e6e6, h.earColour = 0xc4c8d4, h.eye = {2.5f, .80f, .26f, .46f, .62f};
+	h.innerEar = 0xf8e6e6, h.earColour = 0xc4c8d4, h.eye = {3.1f, .80f, .26f, .48f, .66f};
 	return h;
 }
 

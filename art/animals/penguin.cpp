@@ -81,7 +81,7 @@ static Poses ShakeOff()
 		float t = Part(i, 8), a = std::sin(t * PI), shake = i % 2 ? 1 : -1;
 		Pose& p     = list[i];
 		p.armsUp    = .45f * a;
-		p.ruffle    = .6f * a;
+		p.ruffle    = .4f * a;
 		p.sway      = .13f * a * shake;
 		p.look      = .55f * a * -shake;
 		p.tailSwing = a * shake;

@@ -1,8 +1,12 @@
 // Head-and-shoulders pictures for the side panel's window, their closed lids and the words below.
 #include "art/animals/actions.h"
 #include "art/animals/beasts.h"
+#include "art/animals/crawlers.h"
 #include "art/animals/duck.h"
 #include "art/animals/figure.h"
+#include "art/animals/fliers.h"
+#include "art/animals/fowl.h"
+#include "art/animals/hoppers.h"
 #include "art/animals/monkey.h"
 #include "art/animals/sheep.h"
 #include "art/families.h"
@@ -28,36 +32,67 @@ struct Portrait {
 // clang-format off
 static const Portrait PORTRAITS[] = {
 	// number, word, species, zoom, look
+	{  0, "Alien",     Alien,      2.2f, 0 },
 	{  1, "Bear",       Bear,       1.95f, .2f },
 	{  3, "Bighorn",    Bighorn,    2.0f, .25f },
+	{  4, "Bluebird",   BlueBird,   4.2f, .55f },
+	{  5, "Robot",     Bot,        1.7f, .25f },
 	{  6, "Camel",      Camel,      2.1f, .25f },
 	{  7, "Cat",        Cat,        3.3f, .25f },
+	{  8, "Chicken",    Chicken,    3.1f, .25f },
+	{  9, "Chipmunk",   Chipmunk,   3.2f, .25f },
 	{ 10, "Cow",        Cow,        1.85f, .25f },
-	{ 11, "Coyote",     Coyote,     2.4f, .25f },
+	{ 11, "Coyote",     Coyote,     2.1f, .25f },
+	{ 12, "Crow",       Crow,       4.0f, .55f },
 	{ 13, "Deer",       Deer,       1.8f, .25f },
 	{ 14, "Dog",        Dog,        3.25f, .25f },
 	{ 15, "Donkey",     Donkey,     1.9f, .25f },
 	{ 16, "Duck",       Duck,       3.3f, .25f },
 	{ 17, "Duckling",   Duckling,   4.3f, .25f },
-	{ 19, "Elephant",   Elephant,   1.2f, .25f },
+	{ 18, "Eagle",      Eagle,      2.9f, .5f },
+	{ 19, "Elephant",   Elephant,   1.04f, .25f },
+	{ 20, "Flamingo",   Flamingo,   3.3f, .25f },
 	{ 21, "Fox",        Fox,        2.9f, .25f },
+	{ 22, "Frog",       Frog,       3.0f, .25f },
 	{ 23, "Goat",       Goat,       2.1f, .25f },
+	{ 24, "Goose",      Goose,      3.0f, .25f },
+	{ 25, "Hare",       Hare,       2.35f, .25f },
 	{ 26, "Hippo",      Hippo,      1.75f, .25f },
 	{ 27, "Horse",      Horse,      2.0f, .25f },
-	{ 28, "Hyena",      Hyena,      2.45f, .25f },
+	{ 28, "Hyena",      Hyena,      2.11f, .25f },
+	{ 29, "Jackrabbit", Jackrabbit, 1.9f, .25f },
+	{ 30, "Joey",       KangarooJoey, 2.9f, .25f },
+	{ 31, "Kangaroo",   Kangaroo,   1.95f, .25f },
+	{ 32, "Koala",      Koala,      2.9f, .2f },
 	{ 33, "Lion",       Lion,       1.35f, .2f },
+	{ 34, "Lizard",    Lizard,     2.9f, .3f },
 	{ 35, "Monkey",     Monkey,     3.0f, .1f },
 	{ 36, "Moose",      Moose,      1.45f, .25f },
 	{ 37, "Mouse",      Mouse,      4.1f, .25f },
+	{ 38, "Ostrich",    Ostrich,    2.6f, .25f },
+	{ 39, "Owl",        Owl,        3.2f, .1f },
 	{ 40, "Panda",      Panda,      1.9f, .2f },
+	{ 41, "Penguin",    Penguin,    2.9f, .25f },
 	{ 42, "Pig",        Pig,        2.15f, .25f },
+	{ 43, "Pigeon",     Pigeon,     4.2f, .55f },
 	{ 44, "Polar Bear", PolarBear,  2.0f, .25f },
+	{ 45, "Rabbit",     Rabbit,     2.5f, .25f },
 	{ 46, "Raccoon",    Raccoon,    2.85f, .25f },
 	{ 47, "Rhino",      Rhino,      1.8f, .25f },
+	{ 48, "Roadrunner", Roadrunner, 3.5f, .5f },
+	{ 49, "Seal",      Seal,       2.5f, .3f },
 	{ 50, "Sheep",      Sheep,      2.7f, .25f },
 	{ 51, "Skunk",      Skunk,      2.8f, .25f },
+	{ 52, "Snake",     Snake,      3.1f, .3f },
 	{ 53, "Snow Tiger", SnowTiger,  1.6f, .2f },
+	{ 54, "Snowy Owl",  SnowyOwl,   3.1f, .1f },
+	{ 55, "Squirrel",   Squirrel,   3.4f, .2f },
+	{ 56, "Swan",       Swan,       3.0f, .25f },
 	{ 57, "Tiger",      Tiger,      1.6f, .2f },
+	{ 58, "Tortoise",  Tortoise,   2.5f, .3f },
+	{ 59, "Turtle",    Turtle,     4.4f, .3f },
+	{ 60, "Vulture",    Vulture,    3.4f, .45f },
+	{ 61, "Walrus",    Walrus,     2.0f, .3f },
 	{ 62, "Warthog",    Warthog,    2.1f, .25f },
 	{ 63, "Wolf",       Wolf,       2.0f, .25f },
 	{ 64, "Zebra",      Zebra,      2.0f, .25f },

@@ -5,9 +5,9 @@
 
 static const float BODY_BOB = .55f, SHOULDER_BOB = .5f;  // of a walk, twice a cycle
 static const float SHOULDER_LAG = 1.2f, HEAD_LAG = 2.4f; // radians behind the hips
-static const float STANCE    = .6f;                      // part of a stride that a foot stays down
 static const float LIFT      = .24f;                     // of a foot, part of the leg
 static const float LEG_SWEEP = .36f, MOST_SWEEP = 4.6f;
+static const float MOST_STEP      = .58f;  // part of the leg; more would be a split
 static const float FAR_SHADE      = .55f;  // far legs lie in shadow, or a walk can't be read
 static const float GRAZING_HEIGHT = 1.28f; // least, in head radii
 static const float GRAZING_TIP    = .68f;  // radians, nose down
@@ -239,12 +239,14 @@ Vec3 QuadrupedBuilder::SteppingFoot(const Leg& leg) const
 	if (!walking)
 		return foot;
 	float height = LegHeight(leg);
-	float sweep  = std::min(height * LEG_SWEEP, MOST_SWEEP) * pose.strideSize;
-	float t      = std::fmod(phase + leg.phase, 1.f);
-	if (t < STANCE) {
-		foot.x += sweep * (1 - 2 * t / STANCE);
+	float sweep  = animal.step > 0 ? std::min(animal.step, height * MOST_STEP)
+	                               : std::min(height * LEG_SWEEP, MOST_SWEEP);
+	sweep *= pose.strideSize;
+	float t = std::fmod(phase + leg.phase, 1.f), stance = animal.stance;
+	if (t < stance) {
+		foot.x += sweep * (1 - 2 * t / stance);
 	} else {
-		float u = (t - STANCE) / (1 - STANCE);
+		float u = (t - stance) / (1 - stance);
 		foot.x += sweep * (-1 + 2 * Smoothstep(0, 1, u));
 		foot.y += std::sin(u * PI) * height * LIFT;
 	}
@@ -357,7 +359,7 @@ void QuadrupedBuilder::AddNeckAndHead()
 	float turn  = Radians(pose.look * 46 + animal.restTurn) * view.TowardViewer();
 	float pitch =
 	    Radians(animal.headPitch) - pose.headDown * GRAZING_TIP + pose.headTip + tip * .05f;
-	HeadFrame frame{centre, TurnY(turn) * TurnZ(pitch)};
+	HeadFrame frame{centre, TurnZ(-pose.pitch * pose.headLevel) * TurnY(turn) * TurnZ(pitch)};
 
 	Vec3 nape = centre - frame.Along(1.f, r * .1f, 0);
 	if (animal.neckDip > 0)

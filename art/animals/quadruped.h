@@ -16,6 +16,10 @@ struct Quadruped {
 	bool armour = false; // folds behind the shoulder and before the hip
 
 	float thigh = 3.6f, shin = 2.8f, paw = 3.2f, pawStretch = 1.25f, spread = 4.6f;
+	// Of a walk: half the way of a foot on the ground, and the part of a stride that it stays
+	// there. Should answer to the pace at which the game moves the animal. step 0: a part of the
+	// leg.
+	float step = 0, stance = .6f;
 	bool hooved        = false;
 	bool patternedLegs = false;
 

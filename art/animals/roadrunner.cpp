@@ -16,7 +16,8 @@ static Bird RoadrunnerShape()
 	b.crest = 4.6f, b.spots = .54f;
 	b.eye  = {1.9f, .60f, .26f, .62f, .55f, 0, 0, .5f};
 	b.body = 0x86705c, b.belly = 0xf2e6d0, b.fleck = 0x4a3c34, b.wing = 0x6a5a4c;
-	b.wingTip = 0x443a34, b.head = 0x4c5a72, b.neck = 0xc8b498, b.tail = 0x4a4656;
+	b.wingTip = 0x443a34, b.head = 0xdcc6a0, b.crestColour = 0x3a4058, b.neck = 0xe4d4b4,
+	b.tail = 0x4a4656;
 	b.beak = 0x6a6468, b.leg = 0x8a94a8;
 	return b;
 }
@@ -36,7 +37,7 @@ static Poses Dash(Heading heading)
 		list[i].pitch     = -.20f;
 		list[i].headTip   = .15f;
 		list[i].squash    = .6f;
-		list[i].rise      = .9f * std::fabs(std::sin(2 * PI * i / 8));
+		list[i].rise      = .7f + .9f * std::fabs(std::sin(2 * PI * i / 8));
 		list[i].tailRaise = -.45f;
 	}
 	return list;

@@ -92,8 +92,8 @@ Species Skunk()
 // Lets go, then lands on its feet at the fourth picture.
 static Poses Fall()
 {
-	const float PRESS[] = {1.2f, 3.6f, 1.2f, -.5f};
-	const int FALLING = 2, LANDING = 4;
+	const float PRESS[] = {1.2f, 3.6f, 2.2f, .8f, -.5f};
+	const int FALLING = 2, LANDING = 5;
 	Poses list(FALLING + LANDING);
 	for (int i = 0; i < FALLING; i++) {
 		list[i].limbsUp  = i ? 1 : .75f;

@@ -328,8 +328,7 @@ static void AddCrateKind(Catalogue& catalogue, const std::string& stem, CrateLoo
 	});
 }
 
-// A number on a little wooden shield that hovers over its crate.
-static Image OrderNumber(int number)
+Image OrderNumber(int number)
 {
 	const int w = 26, h = 28;
 	Canvas canvas(w, h);

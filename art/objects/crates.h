@@ -11,3 +11,6 @@ Image CrateImage(CrateLook look, int damage = 0, float squash = 1, bool apples =
 
 // look 0..2: the letters A, B and C.
 Image BarrelImage(int look, int damage = 0, float squash = 1);
+
+// A number on a little shield that hovers over its crate. 26x28 pixels.
+Image OrderNumber(int number);

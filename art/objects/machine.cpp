@@ -207,7 +207,7 @@ Image MachineLight(int frame, float zoom)
 	return RenderTurning(m, 7, zoom);
 }
 
-void DrawMachine(Image& target, float anchorX, float top, float zoom)
+void DrawMachine(Image& target, float anchorX, float top, float zoom, bool driven)
 {
 	static const float TOP_LINE = 496;
 	auto put                    = [&](const Image& part, float x, float y) {
@@ -222,5 +222,6 @@ void DrawMachine(Image& target, float anchorX, float top, float zoom)
 		put(MachineFan(0, zoom), left, 541);
 	for (int left : {4, 47})
 		put(MachineWheel(0, zoom), left, 566);
-	put(Professor({}, PROFESSOR_WINDOW, zoom), PROFESSOR_WINDOW.left, PROFESSOR_WINDOW.top);
+	if (driven)
+		put(Professor({}, PROFESSOR_WINDOW, zoom), PROFESSOR_WINDOW.left, PROFESSOR_WINDOW.top);
 }

@@ -20,7 +20,8 @@ Image MachineLight(int frame, float zoom = 1); // frames 0..7, dark to bright
 
 // The whole machine with the professor at rest, over `target`; (anchorX, top) is where the paddle's
 // anchor and the line y 496 of the field fall, in pixels of the target.
-void DrawMachine(Image& target, float anchorX, float top, float zoom = 1);
+// Without him when not `driven`.
+void DrawMachine(Image& target, float anchorX, float top, float zoom = 1, bool driven = true);
 
 // Renders one part of the machine into its window.
 Image RenderPart(Model& model, const PartWindow& window, float zoom);

@@ -104,11 +104,14 @@ void Figure::AddEye(int s)
 {
 	Vec3 centre = OnHead(s * 3.6f, 1.3f, 6.2f);
 	Vec3 gaze   = Normalize({pose.turn * .7f + pose.lean * .02f, .12f, 1});
+	float lid   = pose.lid > 0 ? Mix(.5f, .93f, pose.lid) : 0;
 	float pupil = Mix(.72f, .86f, pose.alarm), size = 2.95f + .35f * pose.alarm;
 	Material eye;
-	eye.eye   = true;
+	eye.eye   = pose.lid < .5f;
 	eye.paint = [=](const SurfacePoint& at) {
-		Vec3 d     = Normalize((at.position - centre) * Vec3{1, 1, 1.7f});
+		Vec3 d = Normalize((at.position - centre) * Vec3{1, 1, 1.7f});
+		if (d.y > 1 - 2 * lid)
+			return d.y > 1.25f - 2 * lid ? PAINT_SKIN : InkOf(PAINT_SKIN);
 		float seen = Dot(d, gaze);
 		if (seen > pupil + .12f)
 			return Colour{.10f, .06f, .08f};
@@ -128,7 +131,7 @@ void Figure::AddFace()
 		AddEye(s);
 	model.RoundCone(OnHead(-.6f, 1.6f, 8.1f), OnHead(.6f, 1.6f, 8.1f), .5f, .5f, frame, 0);
 	model.Ellipsoid(OnHead(0, -1.6f, 8.7f), {2.4f, 2.1f, 2.2f}, headAxes, nose, .3f);
-	float open = .8f + 1.6f * pose.alarm;
+	float open = .8f + 1.6f * std::max(pose.alarm, pose.glee * .8f);
 	model.Ellipsoid(OnHead(0, -6.2f - open * .3f, 6.2f), {2.2f, open, 1.2f}, headAxes, mouth, 0);
 	for (int s = -1; s <= 1; s += 2) {
 		Vec3 middle = OnHead(s * 3.2f, -4.3f, 7.2f);
@@ -167,11 +170,19 @@ void Figure::AddArms()
 		Vec3 hand     = hub + Vec3{std::cos(a) * WHEEL, std::sin(a) * WHEEL * .88f, .8f};
 		Vec3 shoulder = chest + Vec3{s * 7.f, -2, 1};
 		Vec3 elbow    = Vec3{s * 13.f + pose.lean * .3f, 17.2f - std::sin(a) * 1.5f * s, 7};
-		Vec3 wrist    = Mix(elbow, hand, .62f);
+		if (s > 0 && pose.reach > 0) {
+			hand  = Mix(hand, head + pose.hand, pose.reach);
+			elbow = Mix(elbow, elbow + Vec3{3.5f, 1.5f, 0}, pose.reach);
+		}
+		Vec3 wrist = Mix(elbow, hand, .62f);
 		model.RoundCone(shoulder, elbow, 3, 2.4f, coat, .8f);
 		model.RoundCone(elbow, wrist, 2.4f, 2.1f, coat, .5f);
 		model.RoundCone(wrist, Mix(elbow, hand, .8f), 2.4f, 2.3f, cuff, 0);
 		model.Ball(hand, 2.5f, glove, .3f);
+		for (int i = -1; i <= 2 && s > 0 && pose.reach > .5f; i++) // fingers of the free hand
+			model.RoundCone(hand,
+			                hand + Vec3{i * 1.5f - .8f, i == 2 ? .9f : 4.3f - .5f * i * i, .2f},
+			                1.1f, .95f, glove, .35f);
 	}
 }
 } // namespace

@@ -13,6 +13,10 @@ struct ProfessorPose {
 	float wind    = 0; // where hair and tie fly to, -1..1
 	float flutter = 0; // phase of the flying ends, radians
 	float alarm   = 0; // 0 calm, 1 eyes wide and mouth open
+	float glee    = 0; // 1: laughs
+	float lid     = 0; // 1 closed
+	float reach   = 0; // 1: the hand on the right has left the wheel and is at `hand`
+	Vec3 hand;         // from the middle of his head
 };
 
 extern const PartWindow PROFESSOR_WINDOW; // at rest

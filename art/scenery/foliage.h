@@ -25,6 +25,9 @@ Frond PalmFrond(const FrondShape& shape, float leaflet, int seed);
 // The game's fronds by letter, 0 for A to 11 for L.
 Frond NamedFrond(bool big, int letter);
 
+// Trunk of the game's palm of this letter, 0 for A to 6 for G; the root is where its crown grows.
+Frond NamedPalmTrunk(int letter);
+
 // The shade of a crown on the ground, flatter than a foot shadow: it has to end within the trunk's
 // picture. Lay it before the trunk.
 void DrawGroundShade(Image& image, float cx, float cy, float rx, float ry);

@@ -102,6 +102,12 @@ Frond NamedFrond(bool big, int letter)
 	           : PalmFrond(s_smallFronds[letter], 10, letter + 20);
 }
 
+Frond NamedPalmTrunk(int letter)
+{
+	const PalmLook& look = s_palms[letter];
+	return {DrawPalmTrunk(look), (int)look.topX, 6};
+}
+
 void AddPalms(Catalogue& catalogue)
 {
 	for (const PalmLook& look : s_palms)

@@ -1,8 +1,8 @@
 // What is over the sea: skies, suns, clouds, the rainbow, and the tints that lie over the field.
-#include "art/families.h"
+#include "art/scenery/skies.h"
 
-#include "art/core/image.h"
 #include "art/core/palette.h"
+#include "art/families.h"
 
 static const int HORIZON      = 95;  // rows until the ramp has reached the colour of the horizon
 static const int STRIP_HEIGHT = 120; // the sea hides what lies lower
@@ -200,7 +200,7 @@ static float CloudHeight(const std::vector<Puff>& puffs, float x, float y, float
 	return std::pow(sum, .25f);
 }
 
-static Image DrawCloud(int w, int h, int seed)
+Image LitCloud(int w, int h, int seed)
 {
 	const int FINE     = 2;
 	const Colour SHADE = HexColour(0xa9c6ec), MIDDLE = HexColour(0xe3eefb);
@@ -238,7 +238,7 @@ static void AddClouds(Catalogue& catalogue)
 			for (int i = 0; i < kind.count; i++)
 				sink.Add(
 				    std::string("background_cloud") + kind.word + std::to_string(i) + ".png",
-				    DrawCloud(kind.width - i % 3 * 6, kind.height - i % 2 * 2, kind.width + i * 7));
+				    LitCloud(kind.width - i % 3 * 6, kind.height - i % 2 * 2, kind.width + i * 7));
 		});
 }
 

@@ -82,12 +82,17 @@ static float RidgeLine(int meadowTop, int ridge, float x)
 	       9 * std::sin(x * .019f + ridge * 2);
 }
 
+float ShoreLine(int shore, float x)
+{
+	return shore + 8 * std::sin(x * .013f) + 7 * LayeredNoise(x * .03f, 0, 3, 4);
+}
+
 static void PaintRidge(Image& image, int meadowTop, int shore, int ridge)
 {
 	static const float s_haze[] = {.42f, .16f, 0};
 	for (int x = 0; x < WIDTH; x++) {
 		float line = RidgeLine(meadowTop, ridge, x);
-		float low  = shore + 8 * std::sin(x * .013f) + 7 * LayeredNoise(x * .03f, 0, 3, 4);
+		float low  = ShoreLine(shore, (float)x);
 		for (int y = (int)line - 1; y < low + 16; y++) {
 			float t  = y + .5f - line;
 			Colour c = GrassColour(x * 1.1f, 200 + ridge * 90 + t);
@@ -123,6 +128,15 @@ static void StrokeMeadow(Image& image, int meadowTop, int shore)
 	}
 }
 
+void DrawShoreLand(Image& image, int meadowTop, int shore)
+{
+	PaintSea(image, meadowTop - 20, meadowTop + 60,
+	         {HexColour(0x5cb4ea), PAINT_SEA_BACK_DEEP, 1, 1.2f, 70});
+	for (int ridge = 0; ridge < 3; ridge++)
+		PaintRidge(image, meadowTop, shore, ridge);
+	StrokeMeadow(image, meadowTop, shore);
+}
+
 Image SunnyShore(int meadowTop, int shore)
 {
 	static const struct {
@@ -138,11 +152,7 @@ Image SunnyShore(int meadowTop, int shore)
 	int seed = 3;
 	for (const auto& cloud : s_clouds)
 		Compose(image, Cloud(cloud.w, cloud.h, seed++), cloud.x, cloud.y);
-	PaintSea(image, meadowTop - 20, meadowTop + 60,
-	         {HexColour(0x5cb4ea), PAINT_SEA_BACK_DEEP, 1, 1.2f, 70});
-	for (int ridge = 0; ridge < 3; ridge++)
-		PaintRidge(image, meadowTop, shore, ridge);
-	StrokeMeadow(image, meadowTop, shore);
+	DrawShoreLand(image, meadowTop, shore);
 	return image;
 }
 

@@ -6,6 +6,10 @@
 // A whole screen: sky with sun and clouds, far sea, three meadows down to a beach at `shore`, open
 // water below it. Rows from `meadowTop` are land.
 Image SunnyShore(int meadowTop, int shore);
+// Its far sea and meadows alone, over what is there.
+void DrawShoreLand(Image& image, int meadowTop, int shore);
+// Row in which its grass gives way to sand.
+float ShoreLine(int shore, float x);
 // Three bands of sea with white crests, over everything from row `top` down.
 void DrawSeaBands(Image& image, int top);
 // A tree whose foot stands at (x, y): 0 broadleaf, 1 pine.

@@ -1,4 +1,4 @@
-// Loading picture, splash, window icon and the front door.
+// Loading picture, splash and window icon.
 #include "art/families.h"
 #include "art/objects/ball.h"
 #include "art/objects/machine.h"
@@ -147,53 +147,9 @@ static void DrawIcon(Sink& sink)
 	sink.AddAs("icon.dat", icon, Encoding::Bmp);
 }
 
-// --- front door
-
-static Image PlayButton(ButtonLook look)
-{
-	const int W = 192, H = 108;
-	Canvas canvas(W, H, 3);
-	float cx = W * .5f, cy = H * .5f;
-	PathFn rim    = Oval(cx, cy, cx - 2, cy - 2);
-	PathFn groove = Oval(cx, cy, cx - 10, cy - 10);
-	PathFn face   = Oval(cx, cy, cx - 11.5f, cy - 11.5f);
-	if (look == ButtonLook::Shadow) {
-		canvas.DropShadow(rim, 2.4f, 0, 0, .55f);
-		return canvas.Finish();
-	}
-	bool warm   = look == ButtonLook::Rollover;
-	Colour base = warm ? Mix(PAINT_GO, HexColour(0xfff2b2), .3f) : PAINT_GO;
-	canvas.Body(rim, Downward(Lighter(PAINT_BRASS, .15f), Darker(PAINT_BRASS, .3f), 0, H),
-	            PAINT_BRASS_INK, 1.2f, 3, 3, .7f);
-	for (int i = 0; i < 20; i++) {
-		float a = i * PI / 10, x = cx + std::cos(a) * (cx - 6), y = cy + std::sin(a) * (cy - 6);
-		canvas.Fill(Disc(x, y, 1.5f), HexColour(0xfff2b8), .9f);
-	}
-	canvas.Fill(groove, PAINT_BRASS_INK);
-	canvas.Relief(face, Downward(Lighter(base, .18f), Darker(base, .42f), 6, H - 6), 5, 2.4f, .3f);
-	canvas.Gloss(Oval(cx, cy * .62f, W * .34f, H * .25f), face, cy * .2f, cy, .34f);
-	canvas.Caption("Play", 46, cx, cy, warm ? HexColour(0xffffcc) : PAINT_WHITE,
-	               InkOf(PAINT_GO) * .8f, 2.2f);
-	return canvas.Finish();
-}
-
-static void DrawFrontDoor(Sink& sink)
-{
-	Image image = SunnyShore(318, 470);
-	DrawScene(image);
-	DrawSeaBands(image, 484);
-	DrawBubbles(image, 22, 40, 60, 200, 760, 420);
-	DrawLogo(image, 400, 130, 132);
-	sink.Add("frontdoor.jpg", image);
-	sink.Add("frontdoor_playbase.png", PlayButton(ButtonLook::Base));
-	sink.Add("frontdoor_playrollover.png", PlayButton(ButtonLook::Rollover));
-	sink.Add("frontdoor_playshadow.png", PlayButton(ButtonLook::Shadow));
-}
-
 void AddOpening(Catalogue& catalogue)
 {
 	catalogue.Add("opening/loading", __FILE__, DrawLoading);
 	catalogue.Add("opening/splash", __FILE__, DrawSplash);
 	catalogue.Add("opening/icon", __FILE__, DrawIcon);
-	catalogue.Add("opening/frontdoor", __FILE__, DrawFrontDoor);
 }

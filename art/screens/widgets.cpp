@@ -2,7 +2,9 @@
 #include "art/families.h"
 #include "art/screens/kit.h"
 
-static const int SLIDER_WIDTH = 112, SLIDER_HEIGHT = 16, SLIDER_PIPS = 11;
+static const int SLIDER_WIDTH = 112, SLIDER_HEIGHT = 26, SLIDER_PIPS = 11;
+static const float TUBE_TOP = 6.6f, TUBE_HEIGHT = 12.8f; // on one line with the step buttons
+static const float PIP_TOP = 9, PIP_HEIGHT = 8;
 static const int FIELD_WIDTH = 168, FIELD_HEIGHT = 32;
 static const int SCREEN_WIDTH = 800, SCREEN_HEIGHT = 600;
 
@@ -39,16 +41,16 @@ static Image SliderFill()
 	for (int i = 0; i < SLIDER_PIPS; i++) {
 		float t    = i / (float)(SLIDER_PIPS - 1);
 		Colour c   = Mix(HexColour(0x58d0ff), HexColour(0x58e070), t);
-		PathFn pip = RoundRect(i * 10 + 2.6f, 4, 7.6f, SLIDER_HEIGHT - 8.f, 2.4f);
-		canvas.Body(pip, Downward(Lighter(c, .3f), Darker(c, .3f), 3, 13), InkOf(c), .7f, 1.2f,
-		            2.6f, .4f);
+		PathFn pip = RoundRect(i * 10 + 2.6f, PIP_TOP, 7.6f, PIP_HEIGHT, 2.4f);
+		canvas.Body(pip, Downward(Lighter(c, .3f), Darker(c, .3f), PIP_TOP - 1, PIP_TOP + 9),
+		            InkOf(c), .7f, 1.2f, 2.6f, .4f);
 	}
 	return canvas.Finish();
 }
 
 static PathFn SliderTube()
 {
-	return RoundRect(.8f, 1.6f, SLIDER_WIDTH - 1.6f, SLIDER_HEIGHT - 3.2f, 5);
+	return RoundRect(.8f, TUBE_TOP, SLIDER_WIDTH - 1.6f, TUBE_HEIGHT, 5);
 }
 
 static Image SliderShadow()
@@ -57,8 +59,8 @@ static Image SliderShadow()
 	canvas.Fill(SliderTube(), HexColour(0x203448));
 	canvas.InnerShadow(SliderTube(), 1.6f, {0, 0, 0}, .6f);
 	for (int i = 0; i < SLIDER_PIPS; i++)
-		canvas.Fill(RoundRect(i * 10 + 2.6f, 4, 7.6f, SLIDER_HEIGHT - 8.f, 2.4f),
-		            HexColour(0x3c566e), .7f);
+		canvas.Fill(RoundRect(i * 10 + 2.6f, PIP_TOP, 7.6f, PIP_HEIGHT, 2.4f), HexColour(0x3c566e),
+		            .7f);
 	return canvas.Finish();
 }
 
@@ -67,7 +69,7 @@ static Image SliderFrame()
 	Canvas canvas(SLIDER_WIDTH, SLIDER_HEIGHT);
 	canvas.Stroke(SliderTube(), PAINT_BRASS_INK, 2.6f);
 	canvas.Stroke(SliderTube(), PAINT_BRASS, 1.5f);
-	canvas.Fill(RoundRect(4, 3, SLIDER_WIDTH - 8.f, 3, 1.5f), PAINT_WHITE, .22f);
+	canvas.Fill(RoundRect(4, PIP_TOP - 1, SLIDER_WIDTH - 8.f, 3, 1.5f), PAINT_WHITE, .22f);
 	return canvas.Finish();
 }
 
@@ -92,12 +94,12 @@ static Image StepButton(bool plus, ButtonLook look)
 
 static void DrawSlider(Sink& sink)
 {
-	const int GREY_WIDTH = 160, GREY_HEIGHT = 30; // covers the slider and its two buttons
+	const int GREY_WIDTH = 160, GREY_HEIGHT = 36; // covers the slider and its two buttons
 	sink.Add("optionssliderslider.png", SliderFill());
 	sink.Add("optionsslidershadow.png", SliderShadow());
 	sink.Add("optionssliderframe.png", SliderFrame());
 	Canvas grey(GREY_WIDTH, GREY_HEIGHT);
-	grey.Fill(RoundRect(0, 0, GREY_WIDTH, GREY_HEIGHT, 9), HexColour(0xeeddb2), .72f);
+	grey.Fill(RoundRect(0, 4, GREY_WIDTH, GREY_HEIGHT - 5.f, 9), HexColour(0xeeddb2), .72f);
 	sink.Add("optionsslidergreyout.png", grey.Finish());
 	for (int plus = 0; plus < 2; plus++) {
 		std::string stem = plus ? "optionssliderbuttonplus" : "optionssliderbuttonminus";
