@@ -52,6 +52,7 @@ until screen = CControllerGame within 5
 wait 5
 key escape                        # back to the map
 until screen = CControllerInGame within 5
+move 5 5
 wait 2
 key up
 wait 2
@@ -65,6 +66,7 @@ key return
 until state = play within 400
 key escape                        # to the main menu, past the map
 until screen = CControllerInGame within 5
+move 5 5
 wait 2
 key up
 wait 2

@@ -50,7 +50,7 @@ TEST_F(MapTest, PointerPicksAndClickingBesideTheIslandsDoesNothing)
 	};
 	move(415, 195);
 	EXPECT_EQ(CHOICE_EAST, map->choice);
-	move(270, 404);
+	move(420, 470);
 	EXPECT_EQ(CHOICE_SOUTH, map->choice);
 	move(790, 590);
 	EXPECT_EQ(CHOICE_SOUTH, map->choice) << "the keys need one to start from";
