@@ -36,6 +36,7 @@ void AddEverything(Catalogue& catalogue)
 	AddDialog(catalogue);
 	AddPause(catalogue);
 	AddBonusCard(catalogue);
+	AddBonusCardWords(catalogue);
 	AddTally(catalogue);
 	AddTallyWords(catalogue);
 	AddTallyAnimals(catalogue);

@@ -15,16 +15,17 @@ void AddMenuAnimals(Catalogue& catalogue);
 void AddMenuDriver(Catalogue& catalogue); // the professor at the wheel
 void AddMenuFish(Catalogue& catalogue);
 void AddMenuButtons(Catalogue& catalogue);
-void AddDialog(Catalogue& catalogue);       // the modal box
-void AddPause(Catalogue& catalogue);        // the menu within a level
-void AddBonusCard(Catalogue& catalogue);    // title card of a bonus level
-void AddTally(Catalogue& catalogue);        // panel, boxes and buttons after a level
-void AddTallyWords(Catalogue& catalogue);   // and its sentences
-void AddTallyAnimals(Catalogue& catalogue); // each species, standing
-void AddGameChoice(Catalogue& catalogue);   // kind of game, go on or start anew
-void AddProfilePages(Catalogue& catalogue); // list of players, box for a name
-void AddOptionsPages(Catalogue& catalogue); // options and control keys
-void AddInstructions(Catalogue& catalogue); // instructions and hint page
+void AddDialog(Catalogue& catalogue);         // the modal box
+void AddPause(Catalogue& catalogue);          // the menu within a level
+void AddBonusCard(Catalogue& catalogue);      // title card of a bonus level
+void AddBonusCardWords(Catalogue& catalogue); // and its sentences
+void AddTally(Catalogue& catalogue);          // panel, boxes and buttons after a level
+void AddTallyWords(Catalogue& catalogue);     // and its sentences
+void AddTallyAnimals(Catalogue& catalogue);   // each species, standing
+void AddGameChoice(Catalogue& catalogue);     // kind of game, go on or start anew
+void AddProfilePages(Catalogue& catalogue);   // list of players, box for a name
+void AddOptionsPages(Catalogue& catalogue);   // options and control keys
+void AddInstructions(Catalogue& catalogue);   // instructions and hint page
 void AddCredits(Catalogue& catalogue);
 void AddMapIslands(Catalogue& catalogue); // close-ups, overview, lit groups
 void AddMapDots(Catalogue& catalogue);    // dots of the levels in all states

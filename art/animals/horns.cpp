@@ -67,13 +67,13 @@ void HornBuilder::AddSwept(int s)
 void HornBuilder::AddCurl(int s)
 {
 	const int BEADS = 19;
-	int ridge       = PaleHorn(.42f);
+	int ridge       = PaleHorn(.26f);
 	Vec3 centre     = frame.Point(-r * .18f, r * .22f, s * r * .86f), last;
 	for (int i = 0; i < BEADS; i++) {
 		float t = i / (BEADS - 1.f), a = Radians(62 + 318 * t), reach = hl * (1 - .30f * t);
 		Vec3 at =
 		    centre + frame.Along(std::cos(a) * reach, std::sin(a) * reach, s * (.2f + 2.6f * t));
-		float thick = Mix(3.1f, .9f, t), swell = i % 3 ? 0 : .35f;
+		float thick = Mix(3.1f, 1.3f, t), swell = i % 3 ? 0 : .22f;
 		if (i > 0)
 			model.RoundCone(last, at, thick + swell, thick + swell, i % 3 ? horn : ridge,
 			                i == 1 ? .3f : .1f);
@@ -97,8 +97,8 @@ void HornBuilder::AddAntler(int s)
 // short points along the upper edge and one over the brow.
 void HornBuilder::AddPalm(int s)
 {
-	const int POINTS = 6;
-	int tip          = PaleHorn(.55f);
+	const int POINTS = 7;
+	int tip          = PaleHorn(.40f);
 	Vec3 root        = frame.Point(-r * .10f, r * .72f, s * r * .40f);
 	Vec3 along = Normalize(Vec3{-.02f, .26f, s * .95f}), face = {.80f, .58f, 0};
 	face        = Normalize(face - along * Dot(face, along));
@@ -110,10 +110,10 @@ void HornBuilder::AddPalm(int s)
 	model.RoundCone(root, beam, 1.5f, 1.9f, horn, .3f);
 	model.Ellipsoid(palm, {l, w, 1.3f}, plate, horn, 1.4f);
 	for (int i = 0; i < POINTS; i++) {
-		float a   = Radians(-12 + 26.f * i);
+		float a   = Radians(-12 + 22.f * i);
 		Vec3 out  = plate * Normalize(Vec3{std::cos(a) + .25f, std::sin(a) + .5f, .12f});
 		Vec3 edge = palm + plate * Vec3{l * .86f * std::cos(a), w * .80f * std::sin(a), 0};
-		model.RoundCone(edge, edge + out * (hl * .30f), 1.3f, .6f, tip, .5f);
+		model.RoundCone(edge, edge + out * (hl * .26f), 1.5f, .40f, tip, .6f);
 	}
 	model.RoundCone(beam, beam + frame.Along(hl * .34f, hl * .12f, s * .6f), 1.1f, .5f, tip, .4f);
 }

@@ -4,11 +4,11 @@
 
 // Places of the game's screen, in pixels.
 static const int BOX_X = 213, BOX_Y = 158;
-static const int WORDS_MIDDLE = 253; // between the plank and the question
+static const int WORDS_MIDDLE = 254; // between the plank and the question
 static const int TITLE_X = 278, TITLE_Y = 177, QUESTION_X = 286;
 static const int PAPER_TOP      = 16; // below the picture's top, where the plank begins
 static const int MIDDLE_X       = 400;
-static const float TITLE_MIDDLE = 188; // of the plank and of the words on it
+static const float TITLE_MIDDLE = 190; // of the plank and of the words on it
 
 static void DrawBox(Sink& sink)
 {
@@ -29,7 +29,7 @@ static Image Title(const char* text, int x)
 {
 	const int H = 32;
 	int w       = 2 * (MIDDLE_X - x);
-	return TitleOn(w, H, w * .5f, TITLE_MIDDLE - TITLE_Y, text, 24, TITLE_YELLOW);
+	return TitleOn(w, H, w * .5f, TITLE_MIDDLE - TITLE_Y, text, 23, TITLE_YELLOW);
 }
 
 static Image SteelPlate(int w, int h)

@@ -173,6 +173,24 @@ TEST_F(GameTest, RescueEndsTheLevelAndSavesIt)
 	EXPECT_EQ(2, g_gameData->FirstLevelNotDone());
 }
 
+TEST_F(GameTest, PausesByItselfWhenTheWindowLosesTheKeys)
+{
+	UntilPlay();
+	SDL_Event event    = {};
+	event.type         = SDL_ACTIVEEVENT;
+	event.active.gain  = 0;
+	event.active.state = SDL_APPINPUTFOCUS;
+	game->OnKey(false, g_gameData->GetKey(KEY_LEFT));
+	SDL_PushEvent(&event);
+	Frames(1);
+	ASSERT_STREQ("CControllerInGame", g_currentController->Name());
+	g_currentController->SetResult(RESULT_RETURN);
+	ControllerChainTick();
+	const int x = game->paddle->GetTarget();
+	Frames(5);
+	EXPECT_EQ(x, game->paddle->GetTarget()) << "a key that was held counts as let go";
+}
+
 TEST_F(GameTest, GameOverResetsTheRunAndLeaves)
 {
 	UntilPlay();
