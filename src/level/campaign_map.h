@@ -1,6 +1,7 @@
 // The campaign as the map shows it: the groups of islands, and what each level's dot is.
 #pragma once
 
+#include "level/dot_places.h"
 #include "media/dot_art.h"
 
 class CGameData;
@@ -11,10 +12,6 @@ enum IslandGroup { GROUP_NONE, GROUP_A, GROUP_B, GROUP_C };
 // the branch opens with the gate too.
 struct SideBranch {
 	int gate, first, last;
-};
-
-struct DotPlace {
-	int x, y; // pixels of the close-up, upper left corner
 };
 
 // Levels here are 1 to LEVEL_COUNT.

@@ -86,6 +86,7 @@ void CControllerMain::OpenMap(int goToCurrentGroup)
 void CControllerMain::StartLevel(int number)
 {
 	ShowHourglass(true);
+	PaintWithoutCursor(); // a page before the level begins with a copy of this screen
 	Close();
 	Push(child = new CControllerGame(number));
 }

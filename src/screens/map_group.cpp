@@ -139,6 +139,7 @@ void CControllerMapGroup::Ask(int dialogKind)
 void CControllerMapGroup::StartLevel(int number)
 {
 	ShowHourglass(true);
+	PaintWithoutCursor(); // a page before the level begins with a copy of this screen
 	Close();
 	chosenLevel = startedLevel = number;
 	startedAs                  = StateOfDot(*g_gameData, number);

@@ -3,42 +3,24 @@
 #include "art/animals/limbs.h"
 #include "art/animals/monkey.h"
 #include "art/animals/sheep.h"
-#include "art/core/encode.h"
 #include "art/families.h"
+#include "tests/art/drawn.h"
 
 #include <gtest/gtest.h>
-#include <map>
 
 namespace
 {
-using Pictures = std::map<std::string, Image>;
-
 // Every picture of the animals by file name, drawn once for all tests.
 const Pictures& Drawn()
 {
-	static const Pictures pictures = [] {
-		Catalogue catalogue;
-		for (auto add : {AddSheep, AddMonkey, AddDuck, AddDuckling, AddButterflies, AddPortraits})
-			add(catalogue);
-		Sink sink;
-		for (const Group& group : catalogue.groups)
-			group.draw(sink);
-		Pictures all;
-		for (const Picture& picture : sink.pictures)
-			all[picture.name] = DecodePng(picture.bytes);
-		return all;
-	}();
+	static const Pictures pictures =
+	    DrawFamilies({AddSheep, AddMonkey, AddDuck, AddDuckling, AddButterflies, AddPortraits});
 	return pictures;
 }
 
 const Image& Named(const std::string& name)
 {
-	static const Image NONE;
-	auto found = Drawn().find(name);
-	if (found != Drawn().end())
-		return found->second;
-	ADD_FAILURE() << name << " isn't drawn";
-	return NONE;
+	return PictureNamed(Drawn(), name);
 }
 
 std::vector<Image> Frames(const std::string& stem, int first, int last)

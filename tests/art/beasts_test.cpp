@@ -1,43 +1,23 @@
 // What the game relies on in the pictures of four-footed animals.
-#include "art/core/encode.h"
 #include "art/families.h"
+#include "tests/art/drawn.h"
 
 #include <gtest/gtest.h>
-#include <map>
 
 namespace
 {
-using Pictures = std::map<std::string, Image>;
-
 // Standing, blinking and bubble views of every four-footed species, drawn once for all tests.
 const Pictures& Drawn()
 {
-	static const Pictures pictures = [] {
-		Catalogue catalogue;
-		for (auto add : {AddCow, AddPigs, AddBears, AddHorses, AddGoats, AddDogs, AddCats,
-		                 AddGiants, AddDeer, AddRovers})
-			add(catalogue);
-		Sink sink;
-		for (const Group& group : catalogue.groups)
-			if (group.name.find(" stand") != std::string::npos ||
-			    group.name.find(" bubble") != std::string::npos)
-				group.draw(sink);
-		Pictures all;
-		for (const Picture& picture : sink.pictures)
-			all[picture.name] = DecodePng(picture.bytes);
-		return all;
-	}();
+	static const Pictures pictures = DrawFamilies({AddCow, AddPigs, AddBears, AddHorses, AddGoats,
+	                                               AddDogs, AddCats, AddGiants, AddDeer, AddRovers},
+	                                              {" stand", " bubble"});
 	return pictures;
 }
 
 const Image& Named(const std::string& name)
 {
-	static const Image NONE;
-	auto found = Drawn().find(name);
-	if (found != Drawn().end())
-		return found->second;
-	ADD_FAILURE() << name << " isn't drawn";
-	return NONE;
+	return PictureNamed(Drawn(), name);
 }
 
 struct Beast {

@@ -1,43 +1,24 @@
 // What the game relies on in the pictures of creepers, seals, robot, alien and saucer.
-#include "art/core/encode.h"
 #include "art/families.h"
 #include "art/objects/saucer.h"
+#include "tests/art/drawn.h"
 
 #include <gtest/gtest.h>
-#include <map>
 
 namespace
 {
-using Pictures = std::map<std::string, Image>;
-
 // All of their pictures, drawn once for all tests.
 const Pictures& Drawn()
 {
-	static const Pictures pictures = [] {
-		Catalogue catalogue;
-		for (auto add : {AddTurtles, AddSnake, AddLizard, AddSeals, AddBot, AddAlien, AddAlienPilot,
-		                 AddSaucer, AddSaucerAntenna, AddSaucerFire})
-			add(catalogue);
-		Sink sink;
-		for (const Group& group : catalogue.groups)
-			group.draw(sink);
-		Pictures all;
-		for (const Picture& picture : sink.pictures)
-			if (picture.name.find(".png") != std::string::npos)
-				all[picture.name] = DecodePng(picture.bytes);
-		return all;
-	}();
+	static const Pictures pictures =
+	    DrawFamilies({AddTurtles, AddSnake, AddLizard, AddSeals, AddBot, AddAlien, AddAlienPilot,
+	                  AddSaucer, AddSaucerAntenna, AddSaucerFire});
 	return pictures;
 }
 
 const Image& Named(const std::string& name)
 {
-	static const Image NONE;
-	auto found = Drawn().find(name);
-	if (found != Drawn().end())
-		return found->second;
-	ADD_FAILURE() << name << " isn't drawn";
-	return NONE;
+	return PictureNamed(Drawn(), name);
 }
 
 bool StartsWith(const std::string& text, const char* start)

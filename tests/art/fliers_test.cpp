@@ -1,43 +1,23 @@
 // What the game relies on in the pictures of birds that fly.
 #include "art/animals/flight.h"
-#include "art/core/encode.h"
 #include "art/families.h"
+#include "tests/art/drawn.h"
 
 #include <gtest/gtest.h>
-#include <map>
 
 namespace
 {
-using Pictures = std::map<std::string, Image>;
-
 // Perching, gliding and bubble views of every flier, drawn once for all tests.
 const Pictures& Drawn()
 {
-	static const Pictures pictures = [] {
-		Catalogue catalogue;
-		for (auto add : {AddPerchingBirds, AddRaptors, AddOwls})
-			add(catalogue);
-		Sink sink;
-		for (const Group& group : catalogue.groups)
-			for (const char* word : {" perch", " stand", " glide", " bubble"})
-				if (group.name.find(word) != std::string::npos)
-					group.draw(sink);
-		Pictures all;
-		for (const Picture& picture : sink.pictures)
-			all[picture.name] = DecodePng(picture.bytes);
-		return all;
-	}();
+	static const Pictures pictures = DrawFamilies({AddPerchingBirds, AddRaptors, AddOwls},
+	                                              {" perch", " stand", " glide", " bubble"});
 	return pictures;
 }
 
 const Image& Named(const std::string& name)
 {
-	static const Image NONE;
-	auto found = Drawn().find(name);
-	if (found != Drawn().end())
-		return found->second;
-	ADD_FAILURE() << name << " isn't drawn";
-	return NONE;
+	return PictureNamed(Drawn(), name);
 }
 
 struct Flier {

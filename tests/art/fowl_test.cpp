@@ -1,40 +1,22 @@
 // What the game relies on in the pictures of fowl, waders and flightless birds.
-#include "art/core/encode.h"
 #include "art/families.h"
+#include "tests/art/drawn.h"
 
 #include <gtest/gtest.h>
-#include <map>
 
 namespace
 {
-using Pictures = std::map<std::string, Image>;
-
 // All of their pictures, drawn once for all tests.
 const Pictures& Drawn()
 {
-	static const Pictures pictures = [] {
-		Catalogue catalogue;
-		for (auto add : {AddChicken, AddGeese, AddFlamingo, AddPenguin, AddOstrich})
-			add(catalogue);
-		Sink sink;
-		for (const Group& group : catalogue.groups)
-			group.draw(sink);
-		Pictures all;
-		for (const Picture& picture : sink.pictures)
-			all[picture.name] = DecodePng(picture.bytes);
-		return all;
-	}();
+	static const Pictures pictures =
+	    DrawFamilies({AddChicken, AddGeese, AddFlamingo, AddPenguin, AddOstrich});
 	return pictures;
 }
 
 const Image& Named(const std::string& name)
 {
-	static const Image NONE;
-	auto found = Drawn().find(name);
-	if (found != Drawn().end())
-		return found->second;
-	ADD_FAILURE() << name << " isn't drawn";
-	return NONE;
+	return PictureNamed(Drawn(), name);
 }
 
 // Pixels in which two pictures differ, laid with the middles of their lower edges on each other.

@@ -1,48 +1,25 @@
 // What the game relies on in the pictures of hopping and climbing small animals.
 #include "art/animals/hopper.h"
-#include "art/core/encode.h"
 #include "art/families.h"
+#include "tests/art/drawn.h"
 
 #include <gtest/gtest.h>
-#include <map>
 
 namespace
 {
-using Pictures = std::map<std::string, Image>;
-
 // Single views of all of them and some of their moves, drawn once for all tests.
 const Pictures& Drawn()
 {
-	static const Pictures pictures = [] {
-		const char* const GROUPS[] = {
-		    " stand",   " bubble",          "kangajoey emerge",   "rabbit hop",
-		    "frog hop", "kangaroo hopdown", "squirrel climbtree", "koala climb"};
-		Catalogue catalogue;
-		for (auto add : {AddRabbits, AddKangaroos, AddFrog, AddSquirrels, AddKoala})
-			add(catalogue);
-		Sink sink;
-		for (const Group& group : catalogue.groups)
-			for (const char* part : GROUPS)
-				if (group.name.find(part) != std::string::npos) {
-					group.draw(sink);
-					break;
-				}
-		Pictures all;
-		for (const Picture& picture : sink.pictures)
-			all[picture.name] = DecodePng(picture.bytes);
-		return all;
-	}();
+	static const Pictures pictures =
+	    DrawFamilies({AddRabbits, AddKangaroos, AddFrog, AddSquirrels, AddKoala},
+	                 {" stand", " bubble", "kangajoey emerge", "rabbit hop", "frog hop",
+	                  "kangaroo hopdown", "squirrel climbtree", "koala climb"});
 	return pictures;
 }
 
 const Image& Named(const std::string& name)
 {
-	static const Image NONE;
-	auto found = Drawn().find(name);
-	if (found != Drawn().end())
-		return found->second;
-	ADD_FAILURE() << name << " isn't drawn";
-	return NONE;
+	return PictureNamed(Drawn(), name);
 }
 
 // Rows between the lowest thing drawn, shadows left out, and the picture's lower edge.
