@@ -5,7 +5,7 @@
 #include "animals/species_numbers.h"
 
 // clang-format off
-static const ActionRow s_actions[] = {
+const ActionRow BEAR_ACTIONS[8] = {
 	// name            kind           frames                                        weight role       then      options
 	{ "stand",         ACTION_IDLE,   ".",                                              0, ROLE_NONE, "" },
 	{ "standblink",    ACTION_BLINK,  ".",                                              2, ROLE_NONE, "" },
@@ -26,7 +26,7 @@ static const BodyPoint s_body[] = {
 };
 // clang-format on
 
-const SpeciesTable BEAR_TABLE = {"bear", s_actions, {}, s_body, {}, {}};
+const SpeciesTable BEAR_TABLE = {"bear", BEAR_ACTIONS, {}, s_body, {}, {}};
 
 CBear::CBear(int centreX, int centreY, bool left)
 {

@@ -5,7 +5,7 @@
 #include "animals/species_numbers.h"
 
 // clang-format off
-static const ActionRow s_actions[] = {
+const ActionRow GOOSE_ACTIONS[8] = {
 	// name              kind           frames     weight role       then options
 	{ "stand",           ACTION_IDLE,   ".",           0, ROLE_NONE, "" },
 	{ "look",            ACTION_LOOK,   "0-4",         1, ROLE_NONE, "" },
@@ -25,7 +25,7 @@ static const BodyPoint s_body[] = {
 };
 // clang-format on
 
-const SpeciesTable GOOSE_TABLE = {"goose", s_actions, {}, s_body, {}, {}};
+const SpeciesTable GOOSE_TABLE = {"goose", GOOSE_ACTIONS, {}, s_body, {}, {}};
 
 CGoose::CGoose(int centreX, int centreY, bool left)
 {

@@ -5,7 +5,7 @@
 #include "animals/species_numbers.h"
 
 // clang-format off
-static const ActionRow s_actions[] = {
+const ActionRow LION_ACTIONS[7] = {
 	// name              kind          frames  weight role       then options
 	{ "stand",           ACTION_IDLE,  ".",        0, ROLE_NONE, "" },
 	{ "standblink",      ACTION_BLINK, ".",        2, ROLE_NONE, "" },
@@ -26,7 +26,7 @@ static const BodyPoint s_body[] = {
 };
 // clang-format on
 
-const SpeciesTable LION_TABLE = {"lion", s_actions, {}, s_body, {}, {}};
+const SpeciesTable LION_TABLE = {"lion", LION_ACTIONS, {}, s_body, {}, {}};
 
 CLion::CLion(int centreX, int centreY, bool left)
 {

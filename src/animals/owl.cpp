@@ -4,7 +4,7 @@
 #include "animals/species_numbers.h"
 
 // clang-format off
-static const ActionRow s_actions[] = {
+const ActionRow OWL_ACTIONS[6] = {
 	{ "perch", ACTION_IDLE, ".", 0, ROLE_NONE, "" },
 	BirdLook("lookA", "0-4"),
 	BirdLook("lookB", "0-4"),
@@ -19,7 +19,7 @@ static const BodyPoint s_body[] = {
 };
 // clang-format on
 
-const SpeciesTable OWL_TABLE = {"owl", s_actions, {}, s_body, {}, {}};
+const SpeciesTable OWL_TABLE = {"owl", OWL_ACTIONS, {}, s_body, {}, {}};
 
 const BirdPage OWL_PAGE = {
     .species       = SPECIES_OWL,

@@ -4,22 +4,13 @@
 #include "animals/species_numbers.h"
 
 // clang-format off
-static const ActionRow s_actions[] = {
-	{ "perch", ACTION_IDLE, ".", 0, ROLE_NONE, "" },
-	BirdLook("lookA", "0-4"),
-	BirdLook("lookB", "0-4"),
-	BirdBump("stunned", "0-5"),
-	BirdFlap("0-7"),
-	BirdGlide("0*4 1 2*4 1"),
-};
-
 static const BodyPoint s_body[] = {
 	{ 2, 20 }, { 5, 26 }, { 11, 27 }, { 17, 26 }, { 20, 20 },
 	{ 17, 14 }, { 11, 13 }, { 5, 14 },
 };
 // clang-format on
 
-const SpeciesTable SNOWY_OWL_TABLE = {"snowyowl", s_actions, {}, s_body, {}, {}};
+const SpeciesTable SNOWY_OWL_TABLE = {"snowyowl", OWL_ACTIONS, {}, s_body, {}, {}};
 
 const BirdPage SNOWY_OWL_PAGE = {
     .species       = SPECIES_SNOWY_OWL,

@@ -138,6 +138,12 @@ std::span<const SpeciesEntry> AllSpecies();
 // Null for a number without a row.
 CElementAnimal* NewAnimal(int species, int centreX, int centreY, bool left);
 
+// Action tables of which two species make use, each in the file of the first.
+extern const ActionRow BEAR_ACTIONS[8];  // and polar bear
+extern const ActionRow OWL_ACTIONS[6];   // and snowy owl
+extern const ActionRow GOOSE_ACTIONS[8]; // and swan
+extern const ActionRow LION_ACTIONS[7];  // and tiger
+
 extern const SpeciesTable SHEEP_TABLE;
 extern const SpeciesTable TURTLE_TABLE;
 extern const SpeciesTable MONKEY_TABLE;

@@ -5,20 +5,6 @@
 #include "animals/species_numbers.h"
 
 // clang-format off
-static const ActionRow s_actions[] = {
-	// name              kind          frames  weight role       then options
-	{ "stand",           ACTION_IDLE,  ".",        0, ROLE_NONE, "" },
-	{ "standblink",      ACTION_BLINK, ".",        2, ROLE_NONE, "" },
-	{ "look",            ACTION_LOOK,  "0-4",      1, ROLE_NONE, "" },
-	{ "roar",            ACTION_BUMP,  "0-7",      0, ROLE_BUMP, "",
-	  { .sounds = {"tiger_roar.ogg"}, .soundDelay = 3 } },
-	{ "walk",            ACTION_WALK,  "0-11",     2, ROLE_NONE, "" },
-	{ "lowerhead",       ACTION_EXTRA, "0-5",      1, ROLE_NONE, "",
-	  { .hold = Between(60, 120), .exitFrames = EXIT_BACK } },
-	{ "sniff:lowerhead", ACTION_EXTRA, "0-5",      1, ROLE_NONE, "",
-	  { .hold = Between(20, 50), .exitFrames = EXIT_BACK } },
-};
-
 static const BodyPoint s_body[] = {
 	{ 13, 35 }, { 19, 41 }, { 28, 43 }, { 37, 43 }, { 45, 43 },
 	{ 54, 41 }, { 60, 35 }, { 54, 29 }, { 45, 28 }, { 36, 28 },
@@ -26,7 +12,7 @@ static const BodyPoint s_body[] = {
 };
 // clang-format on
 
-const SpeciesTable TIGER_TABLE = {"tiger", s_actions, {}, s_body, {}, {}};
+const SpeciesTable TIGER_TABLE = {"tiger", LION_ACTIONS, {}, s_body, {}, {}};
 
 CTiger::CTiger(int centreX, int centreY, bool left)
 {

@@ -5,7 +5,24 @@ set -e
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-cat > "$work/first" <<'END'
+# From the main menu by Play to the dots of the first islands, as a new run.
+cat > "$work/way" <<'END'
+key right
+wait 3
+key return
+until screen = CControllerGameType within 120
+wait 10
+key right
+wait 3
+key return
+until screen = CControllerMap within 60
+wait 5
+key return
+until screen = CControllerMapGroup1 within 60
+wait 90
+END
+
+cat > "$work/first.form" <<'END'
 until screen = CControllerMain within 900
 wait 90
 click 55 52                       # the player's name
@@ -24,19 +41,7 @@ wait 5
 click 366 314                     # which is to play
 until screen = CControllerMain within 60
 wait 90
-key right
-wait 3
-key return
-until screen = CControllerGameType within 120
-wait 10
-key right
-wait 3
-key return
-until screen = CControllerMap within 60
-wait 5
-key return
-until screen = CControllerMapGroup1 within 60
-wait 90
+MENU_TO_ISLANDS
 key return                        # Play: the level that comes next
 until level = 1 within 60
 until screen = CControllerInstructionsSmall within 60
@@ -73,19 +78,7 @@ wait 2
 key return
 until screen = CControllerMain within 30
 wait 90
-key right
-wait 3
-key return
-until screen = CControllerGameType within 120
-wait 10
-key right
-wait 3
-key return
-until screen = CControllerMap within 60
-wait 5
-key return
-until screen = CControllerMapGroup1 within 60
-wait 90
+MENU_TO_ISLANDS
 key return
 until state = play within 400
 bot on
@@ -145,6 +138,7 @@ until screen = CControllerGameContinue within 120
 quit
 END
 
+sed -e "/MENU_TO_ISLANDS/{r $work/way" -e "d}" "$work/first.form" > "$work/first"
 "$1" --seed 5 --home "$work/home" --data "$2" "$work/first" > "$work/score.1"
 "$1" --seed 6 --home "$work/home" --data "$2" "$work/second" > "$work/score.2"
 cmp "$work/score.1" "$work/score.2"
